@@ -1,0 +1,422 @@
+/**
+ * pack.h - the vocabulary of the validator: field numbers, message-type
+ * codes, rule rows, value slots, allowed-value lists and the field store.
+ *
+ * Every source may include this header; it includes nothing of ours.
+ */
+#ifndef QUILVANE_RULES_PACK_H
+#define QUILVANE_RULES_PACK_H
+
+#include <cstdint>
+
+namespace quilvane {
+
+// ---------------------------------------------------------------- layout
+
+/** Columns of a record; they are numbered from 1. */
+inline constexpr int LARGEUR_VSE = 256;
+/** First and last column of the body; 1 to 62 is the header, 231 on the footer. */
+inline constexpr int PREMIERE_COL_CORPS = 63;
+inline constexpr int DERNIERE_COL_CORPS = 230;
+/** Error numbers that one record may carry. */
+inline constexpr int MAX_ERREURS = 10;
+
+/** Header fields; the value is the slot of `valEnteteVSE`. */
+enum numEnteteVSE : unsigned { E1, E2, E3, E4, E5, E6, E7, E8, E9, E10, E11, E12, E13 };
+
+/** Footer fields; the value is the slot of `valFinVSE`. */
+enum numFinVSE : unsigned { F1, F2, F3, F4, F5 };
+
+/** Body fields C1 to C100; `CINC` means "no field". */
+// clang-format off
+enum numCorpsVSE : unsigned {
+    C1,  C2,  C3,  C4,  C5,  C6,  C7,  C8,  C9,  C10, C11, C12, C13, C14, C15, C16, C17, C18, C19, C20,
+    C21, C22, C23, C24, C25, C26, C27, C28, C29, C30, C31, C32, C33, C34, C35, C36, C37, C38, C39, C40,
+    C41, C42, C43, C44, C45, C46, C47, C48, C49, C50, C51, C52, C53, C54, C55, C56, C57, C58, C59, C60,
+    C61, C62, C63, C64, C65, C66, C67, C68, C69, C70, C71, C72, C73, C74, C75, C76, C77, C78, C79, C80,
+    C81, C82, C83, C84, C85, C86, C87, C88, C89, C90, C91, C92, C93, C94, C95, C96, C97, C98, C99, C100,
+    CINC
+};
+
+/** Message-type codes. `AVER`, `LIST` and `FICH` have a code but no routing row. */
+enum codeVSE : unsigned {
+    ABAT, ACTI, ASSO, AVER, DETE, DETI, ECBO, ECHA, EGET, ENTR,
+    ERTI, ERRE, EXP1, EXP2, FICH, GROC, IMOC, IMPO, INFO, JALO,
+    LIST, NAIS, NUMA, NVMN, PASS, PICO, RACO, RATA, REBO, SORT,
+    CODE_INCONNU = 0xFFFFFFFFU  // the code of the routing table's last row
+};
+// clang-format on
+
+/** Sense of a date comparison: the field is on or after / on or before the reference. */
+enum esupInf { SUP = 0, INF = 1 };
+
+/** How a date is read: all of it, or with a blank day, or blank day and month. */
+enum eCouI { COMPLETE = 0, INCOMPLETE = 1 };
+
+// ------------------------------------------------------------ value slots
+
+/** One field's text, exactly as cut from the record, zero-terminated. */
+struct valeurVSE {
+    char valeur[LARGEUR_VSE + 1];
+};
+
+/**
+ * The field store. `getvseChamps` writes the slots of the current record;
+ * record processing keeps the FICH record's slots for the whole run. Nothing
+ * clears them between records: a table with fewer fields leaves the higher
+ * slots as they were.
+ */
+extern valeurVSE valEnteteVSE[13];
+extern valeurVSE valCorpsVSE[100];
+extern valeurVSE valFinVSE[5];
+extern valeurVSE valFichEnteteVSE[13];
+extern valeurVSE valFichCorpsVSE[9];
+extern valeurVSE valFichFinVSE[5];
+
+/** The slot texts by field, as rule rows name their dependency. */
+constexpr const char* entete(numEnteteVSE champ) { return valEnteteVSE[champ].valeur; }
+constexpr const char* corps(numCorpsVSE champ) { return valCorpsVSE[champ].valeur; }
+constexpr const char* fin(numFinVSE champ) { return valFinVSE[champ].valeur; }
+constexpr const char* fichEntete(numEnteteVSE champ) { return valFichEnteteVSE[champ].valeur; }
+/** The dependency of a row that compares with no other field. */
+inline constexpr const char* aucune = "";
+
+/** Size of `xdebug`, terminator included. */
+inline constexpr int TAILLE_XDEBUG = 4096;
+/** The record being processed, up to its first zero byte. Written by the
+ *  record stream and by `getvseChamps`; read by checks that look at columns. */
+extern char xdebug[TAILLE_XDEBUG];
+
+/** Error numbers of the current record in the order found. Written by
+ *  `ajouterErreur`; cleared by record processing at each record. */
+extern int codeErreur[MAX_ERREURS + 1];
+/** Their count. Written by record processing and by the error-record writer. */
+extern int nbErreur;
+
+/** 1 when the record holds a byte outside 0x20..0x7E. Raised by the record
+ *  stream, reset by `verifChamps` when it stores error 106. */
+extern int codCaract;
+/** 0 length correct, 1 too long, 2 too short. Raised by the record stream,
+ *  reset by `verifChamps` when it stores error 107 or 108. */
+extern int codLong;
+
+/** Part of the first command-line argument between its first two '_' (at most
+ *  31 characters). Written once by the driver; read by `fichier_C11`. */
+extern char bufC11[32];
+
+/** Stores `numero` as the `compte`-th error of the current record unless ten
+ *  are stored; returns the new count. */
+int ajouterErreur(int compte, int numero);
+
+/** The fixed second cut of a slaughter notice (columns in parentheses). */
+struct vseCorps {
+    char CODE_PAYS_BOV[3];             // always empty
+    char NUME_NATI_BOV[64];            // (65-76) animal number
+    char CODE_RESULTAT[64];            // (77-78)
+    char CODE_EXPLOIT_PROVENANCE[64];  // (79-80) country of the provenance holding
+    char NUME_EXPLOIT_PROVENANCE[64];  // (81-92) provenance holding
+    char DATE_ENTREE_ABAT[64];         // (93-100) entry at the slaughterhouse, DDMMYYYY
+    char DATE_ABATTAGE[64];            // (101-108) slaughter, DDMMYYYY
+    char NUME_TUERIE[64];              // (109-116) slaughterhouse number
+    char POIDS_CARCASSE[64];           // (117-123) carcass weight, NNNN,NN kg
+    char CODE_PAYS_ABAT_NOTIF[64];     // (124-125) country of the notifier
+    char NUME_IDENT_ABAT_NOTIF[64];    // (126-137) notifier identification
+    char INDIC_CREA_INVA_ABATT[64];    // (138) creation or invalidation indicator
+};
+
+/** Extract of the current slaughter notice. Written by `getVseCorps` only. */
+extern vseCorps cp;
+
+/** Fills `cp` from `xdebug`; a member whose columns the record does not reach
+ *  is shorter or empty. */
+void getVseCorps();
+
+// -------------------------------------------------- allowed values, rules
+
+/**
+ * One entry of an allowed-value list: a zero-terminated text with the exact
+ * width of its field, blanks included. `debut` holds its first eight
+ * characters packed into a number, so that a search decides on them at once.
+ */
+struct tValAutorise {
+    const char* valeur;
+    std::uint64_t debut;
+
+    /** Entries are written as plain texts; a null text is an empty end row. */
+    constexpr tValAutorise(const char* texte) : valeur(texte), debut(cle(texte)) {}
+
+    /** The first eight characters of `texte`, zeros behind its end. */
+    static constexpr std::uint64_t cle(const char* texte) {
+        std::uint64_t r = 0;
+        if (texte == nullptr) return r;
+        for (int i = 0; i < 8 && texte[i] != '\0'; ++i)
+            r |= std::uint64_t{static_cast<unsigned char>(texte[i])} << (8 * i);
+        return r;
+    }
+};
+
+/**
+ * A check. `dependance` is the text of the field that the row depends on (or
+ * ""), `champ` the field's own slot, `sverif` the row's list and `lenSverif`
+ * its count. Returns non-zero when the field is acceptable. A check prints
+ * nothing and changes nothing; only the date reader in incomplete mode
+ * rewrites `champ`.
+ */
+using fVerif = int(const char* dependance, char* champ, const void* sverif, int lenSverif);
+
+/** One rule row. */
+struct sCorps {
+    int numChamp;  // field number from 0; shown as number + 1 in traces
+    int debut;     // first column, from 1; 0 on an extra row
+    int fin;       // last column, inclusive; 0 on an extra row
+    int typeCRE;   // presence code by transaction kind: 0 checked,
+    int typeDEM;   //   1 not checked, 2 not allowed (error 86)
+    int typeINV;
+    int typeEDI;
+    int typeMOD;
+    fVerif* pfVerif;        // the check, or null: the field is only cut out
+    const int* plenSverif;  // count of the list
+    const void* sverif;     // the list, or null
+    const char* dependance; // slot of another field, or ""
+    int noErr;              // error number when the check fails
+};
+
+// ------------------------------------------------------ value-list names
+// Contents and stored order: checks/valautorise.cpp.
+
+extern const int Len0;  // count of "no list"
+
+// Header and footer
+extern const tValAutorise tE5[];
+extern const int LentE5;
+extern const tValAutorise tE6[];
+extern const int LentE6;
+extern const tValAutorise tE6CRE[];
+extern const int LentE6CRE;
+extern const tValAutorise tE6DEM[];
+extern const int LentE6DEM;
+extern const tValAutorise tE6INV[];
+extern const int LentE6INV;
+extern const tValAutorise tE6MOD[];
+extern const int LentE6MOD;
+extern const tValAutorise tE6EDI[];
+extern const int LentE6EDI;
+extern const tValAutorise tE6INF[];
+extern const int LentE6INF;
+extern const tValAutorise tE6ECQ[];
+extern const int LentE6ECQ;
+extern const tValAutorise TEC[];
+extern const int LenTEC;
+extern const tValAutorise TDC[];
+extern const int LenTDC;
+extern const tValAutorise versionVSE[];
+extern const int LenversionVSE;
+extern const tValAutorise BDN8[];
+extern const int LenBDN8;
+extern const tValAutorise BDN031[];
+extern const int LenBDN031;
+extern const tValAutorise TOUQ[];
+extern const int LenTOUQ;
+extern const tValAutorise NOUU[];
+extern const int LenNOUU;
+
+// Blank and starred fields
+extern const tValAutorise ET1[];
+extern const int LenET1;
+extern const tValAutorise ET2[];
+extern const int LenET2;
+extern const tValAutorise ET4[];
+extern const int LenET4;
+extern const tValAutorise ET12[];
+extern const int LenET12;
+extern const tValAutorise deuxBlancs[];
+extern const int LendeuxBlancs;
+extern const tValAutorise quatreBlancs[];
+extern const int LenquatreBlancs;
+extern const tValAutorise cinqBlancs[];
+extern const int LencinqBlancs;
+extern const tValAutorise HuitBlancs[];
+extern const int LenHuitBlancs;
+extern const tValAutorise dixBlancs[];
+extern const int LendixBlancs;
+extern const tValAutorise DouzeBlancs[];
+extern const int LenDouzeBlancs;
+extern const tValAutorise quatorzeBlancs[];
+extern const int LenquatorzeBlancs;
+extern const tValAutorise vingtBlancs[];
+extern const int LenvingtBlancs;
+extern const tValAutorise trenteBlancs[];
+extern const int LentrenteBlancs;
+extern const tValAutorise soixanteBlancs[];
+extern const int LensoixanteBlancs;
+extern const tValAutorise HuitBlancsFal[];
+extern const int LenHuitBlancsFal;
+
+// Short codes
+extern const tValAutorise FR[];
+extern const int LenFR;
+extern const tValAutorise UN[];
+extern const int LenUN;
+extern const tValAutorise UNETCINQ[];
+extern const int LenUNETCINQ;
+extern const tValAutorise SEX[];
+extern const int LenSEX;
+extern const tValAutorise SEXFNV[];
+extern const int LenSEXFNV;
+extern const tValAutorise TOUN[];
+extern const int LenTOUN;
+extern const tValAutorise COUE[];
+extern const int LenCOUE;
+extern const tValAutorise BOOL[];
+extern const int LenBOOL;
+extern const tValAutorise BOOLFal[];
+extern const int LenBOOLFal;
+extern const tValAutorise ZERO[];
+extern const int LenZERO;
+extern const tValAutorise Z[];
+extern const int LenZ;
+extern const tValAutorise D7F10[];
+extern const int LenD7F10;
+extern const tValAutorise RES[];
+extern const int LenRES;
+extern const tValAutorise NB[];
+extern const int LenNB;
+extern const tValAutorise MORTNE[];
+extern const int LenMORTNE;
+extern const tValAutorise NUM[];
+extern const int LenNUM;
+
+// Reference dates, DDMMYYYY
+extern const tValAutorise P5[];
+extern const int LenP5;
+extern const tValAutorise P6[];
+extern const int LenP6;
+extern const tValAutorise P7[];
+extern const int LenP7;
+extern const tValAutorise P8[];
+extern const int LenP8;
+extern const tValAutorise P16[];
+extern const int LenP16;
+extern const tValAutorise P17[];
+extern const int LenP17;
+extern const tValAutorise P18[];
+extern const int LenP18;
+
+// Productions, tags, identifiers and orders
+extern const tValAutorise PROD[];
+extern const int LenPROD;
+extern const tValAutorise PROD_E[];
+extern const int LenPROD_E;
+extern const tValAutorise PROD_EV[];
+extern const int LenPROD_EV;
+extern const tValAutorise FIL[];
+extern const int LenFIL;
+extern const tValAutorise FIL_V[];
+extern const int LenFIL_V;
+extern const tValAutorise ELV[];
+extern const int LenELV;
+extern const tValAutorise ELV_V[];
+extern const int LenELV_V;
+extern const tValAutorise TEMOIN[];
+extern const int LenTEMOIN;
+extern const tValAutorise TYP_IDENT[];
+extern const int LenTYP_IDENT;
+extern const tValAutorise DEROUL_MARC[];
+extern const int LenDEROUL_MARC;
+extern const tValAutorise UTIL_BOUC[];
+extern const int LenUTIL_BOUC;
+extern const tValAutorise TYP_NUMERO[];
+extern const int LenTYP_NUMERO;
+extern const tValAutorise C2_MODEL[];
+extern const int LenC2_MODEL;
+extern const tValAutorise C3_MODEL[];
+extern const int LenC3_MODEL;
+extern const tValAutorise C3_MODEL_BV[];
+extern const int LenC3_MODEL_BV;
+extern const tValAutorise C2_MODEL_BV[];
+extern const int LenC2_MODEL_BV;
+extern const tValAutorise FAB_REP[];
+extern const int LenFAB_REP;
+extern const tValAutorise TYP_COM[];
+extern const int LenTYP_COM;
+extern const tValAutorise CAT_RECEN[];
+extern const int LenCAT_RECEN;
+extern const tValAutorise TCE[];
+extern const int LenTCE;
+extern const tValAutorise TTE[];
+extern const int LenTTE;
+extern const tValAutorise TCEP[];
+extern const int LenTCEP;
+
+// Movement causes: cause, last day on which it is valid ("TOUJOURS": always)
+extern const tValAutorise TCME[];
+extern const int LenTCME;
+extern const tValAutorise TCMS[];
+extern const int LenTCMS;
+
+// Department groups that count as one
+extern const tValAutorise DPT2[2][2];
+extern const int LenDPT2;
+extern const tValAutorise DPT3[];
+extern const int LenDPT3;
+extern const tValAutorise DPT4[2][4];
+extern const int LenDPT4;
+extern const tValAutorise DPT5[2][5];
+extern const int LenDPT5;
+extern const tValAutorise DPT6[];
+extern const int LenDPT6;
+extern const tValAutorise DPT7[];
+extern const int LenDPT7;
+extern const tValAutorise DPT8[];
+extern const int LenDPT8;
+extern const tValAutorise DPT17[];
+extern const int LenDPT17;
+
+// Departments: two digits, three characters
+extern const tValAutorise TD[];
+extern const int LenTD;
+extern const tValAutorise TDD[];
+extern const int LenTDD;
+
+// Countries: European Union, exchange partners, all, outside each of the first two
+extern const tValAutorise TCEE[];
+extern const int LenTCEE;
+extern const tValAutorise TECH[];
+extern const int LenTECH;
+extern const tValAutorise TP[];
+extern const int LenTP;
+extern const tValAutorise TCPNOCEE[];
+extern const int LenTCPNOCEE;
+extern const tValAutorise TCPNOECH[];
+extern const int LenTCPNOECH;
+
+// Cattle breeds
+extern const tValAutorise TR[];
+extern const int LenTR;
+extern const tValAutorise TRFNV[];
+extern const int LenTRFNV;
+extern const tValAutorise TRG[];
+extern const int LenTRG;
+
+// Legal forms accepted on creation and on modification
+extern const tValAutorise TRSCRE[];
+extern const int LenTRSCRE;
+extern const tValAutorise TRSMOD[];
+extern const int LenTRSMOD;
+
+// Series letters that each departmental body may issue: body, letters
+extern const tValAutorise NEV[];
+extern const int LenNEV;
+
+// Ovine and caprine number ranges: body, lowest, highest
+extern const tValAutorise IND_M[];
+extern const int LenIND_M;
+
+// Emitter and departmental body that belong together; ended by an empty row,
+// which stands before the count is reached.
+extern const tValAutorise TEDC[][2];
+extern const int LenTEDC;
+
+}  // namespace quilvane
+
+#endif
