@@ -1,0 +1,113 @@
+/**
+ * abattage - the checks of the slaughter notice, most of which look at `cp`,
+ * the extract of the whole notice, rather than at their own field; and a few
+ * small checks that no row names.
+ */
+#include "checks/lecture.h"
+#include "checks/utils.h"
+
+namespace quilvane {
+
+namespace {
+
+bool blancs8(const char* texte) { return egal(texte, HuitBlancs[0].valeur); }
+bool blancs12(const char* texte) { return egal(texte, DouzeBlancs[0].valeur); }
+bool corse(const char* numero) { return memeDebut(numero, "2A", 2) || memeDebut(numero, "2B", 2); }
+
+/** National bodies that notify slaughters beside the slaughterhouses. */
+bool estOffice(const char* notifiant) { return memeDebut(notifiant, "OFFICE", 6); }
+bool estNational(const char* notifiant) { return estOffice(notifiant) || memeDebut(notifiant, "ONICAB", 6); }
+
+/** Characters before the first blank. */
+std::size_t longueurUtile(const char* texte) { return std::strcspn(texte, " "); }
+
+}  // namespace
+
+int presence_C2(const char*, char*, const void*, int) {
+    getVseCorps();
+    return !blancs12(cp.NUME_NATI_BOV);
+}
+
+int presence_C5(const char*, char*, const void*, int) { return !videOuBlanc(cp.NUME_EXPLOIT_PROVENANCE); }
+
+int presence_C8(const char*, char*, const void*, int) {
+    // The number may be left blank, but not half blank.
+    const char* const tuerie = cp.NUME_TUERIE;
+    const std::size_t longueur = std::strlen(tuerie);
+    if (longueur < 8) return 0;
+    if (blancs8(tuerie)) return 1;
+    if (tuerie[0] == ' ') return 0;
+    return tous(tuerie, 1, static_cast<int>(longueur), [](char c) { return estLettreOuChiffre(c) || c == ' '; });
+}
+
+int presence_C11(const char*, char*, const void*, int) {
+    return cp.NUME_IDENT_ABAT_NOTIF[0] != '\0' && !blancs12(cp.NUME_IDENT_ABAT_NOTIF);
+}
+
+int fVerif_ASDA(const char*, char* champ, const void*, int) {
+    return dansListeStricte(champ, TP, LenTP) || dansListeStricte(champ, TCPNOCEE, LenTCPNOCEE);
+}
+
+int fVerif_NUM_ASDA(const char*, char* champ, const void*, int) {
+    if (!egal(cp.CODE_EXPLOIT_PROVENANCE, "FR")) return 1;
+    if (cp.INDIC_CREA_INVA_ABATT[0] == '\0') return 0;
+    return estNational(cp.NUME_IDENT_ABAT_NOTIF) || verifNumExploitFr(champ);
+}
+
+int fVerif_NUM_TUE(const char*, char* champ, const void*, int) {
+    if (blancs8(champ)) return 1;
+    if (!estOffice(cp.NUME_IDENT_ABAT_NOTIF)) return std::strlen(champ) >= 8 && estLettreOuChiffre(champ[0]);
+    // The Office has no slaughterhouse: its number is the two country codes.
+    const std::size_t n = longueurUtile(champ);
+    const std::size_t premier = std::strlen(cp.CODE_EXPLOIT_PROVENANCE);
+    return n == premier + std::strlen(cp.CODE_PAYS_ABAT_NOTIF) &&
+           std::memcmp(champ, cp.CODE_EXPLOIT_PROVENANCE, premier) == 0 &&
+           std::memcmp(champ + premier, cp.CODE_PAYS_ABAT_NOTIF, n - premier) == 0;
+}
+
+int fVerif_chaine_POIDS(const char*, char* champ, const void*, int) {
+    if (std::strlen(champ) != 7) return 0;
+    if (videOuBlanc(champ)) return 1;
+    return chiffres(champ, 1, 4) && champ[4] == ',' && chiffres(champ, 6, 7);
+}
+
+int fVerif_POIDS(const char*, char* champ, const void*, int) {
+    if (std::strlen(champ) == 7 && videOuBlanc(champ)) return 1;
+    const long long kilos = nombre(champ, 1, 4);
+    return kilos < 1000 || (kilos == 1000 && nombre(champ, 6, 2) == 0);
+}
+
+int fVerif_CODEPE_ABATNOT(const char*, char* champ, const void*, int) {
+    if (!estNational(cp.NUME_IDENT_ABAT_NOTIF)) return egal(champ, "FR");
+    const char pays[3] = {carac(cp.NUME_IDENT_ABAT_NOTIF, 7), carac(cp.NUME_IDENT_ABAT_NOTIF, 8), '\0'};
+    return egal(cp.CODE_PAYS_ABAT_NOTIF, pays);
+}
+
+int fVerif_NUMID_ABATNOT_CONF(const char*, char* champ, const void*, int) {
+    const std::size_t n = longueurUtile(champ);
+    if (n != 7 && n != 8) return 0;
+    if (estNational(champ)) return 1;
+    if (contientBlanc(champ, 1, 2)) return 0;
+    if (!blancs(champ, 11, 12)) return 0;
+    return corse(champ) || debutDansListe(champ, TD, LenTD, 2);
+}
+
+int fVerif_NUMID_ABATNOT_COHER(const char*, char*, const void*, int) { return 1; }
+int fVerif_NUMID_ABATNOT_TABREF(const char*, char*, const void*, int) { return 1; }
+int fVerif_INDIC_ABAT(const char*, char*, const void*, int) { return 1; }
+int return_true(const char*, char*, const void*, int) { return 1; }
+
+int fichier_C11(const char*, char*, const void*, int) {
+    char numero[13];
+    int n = 0;
+    for (const char* p = cp.NUME_IDENT_ABAT_NOTIF; *p != '\0' && n < 12; ++p)
+        if (estChiffre(*p)) numero[n++] = *p;
+    numero[n] = '\0';
+    return egal(numero, bufC11) || estNational(corps(C11)) || corse(corps(C11));
+}
+
+int verifSpace(const char*, char* champ, const void*, int) {
+    return egal(champ, "10") || egal(champ, "  ");
+}
+
+}  // namespace quilvane

@@ -1,0 +1,212 @@
+/**
+ * coherence - comparison of a field with another field of its record: numbers
+ * with the departmental body, dates with the record's own date; and the date
+ * reader on which every date check rests.
+ */
+#include <cstdio>
+
+#include "calendar/datecalc.h"
+#include "checks/lecture.h"
+#include "checks/utils.h"
+
+namespace quilvane {
+
+namespace {
+
+/** The movement cause of ENTR and SORT. */
+bool causeJ() { return egal(corps(C5), "J"); }
+
+/** Number ranges given to a departmental body beside its row of `IND_M`. */
+struct plage {
+    const char* code;
+    const char* bas;
+    const char* haut;
+};
+
+// "043IPG" and "049IPG" share 674500 to 674999.
+// clang-format off
+constexpr plage PLAGES_SUPPLEMENTAIRES[] = {
+    {"076IPG", "655001", "655499"},
+    {"022IPG", "655500", "657499"},
+    {"035IPG", "657500", "659499"},
+    {"076IPG", "659500", "660499"},
+    {"022IPG", "660500", "661999"},
+    {"024IPG", "662000", "664499"},
+    {"029IPG", "664500", "667499"},
+    {"031IPG", "667500", "667999"},
+    {"033IPG", "668000", "668499"},
+    {"035IPG", "668500", "673499"},
+    {"042IPG", "673500", "673999"},
+    {"043IPG", "674000", "674999"},
+    {"049IPG", "674500", "674999"},
+    {"053IPG", "675000", "677499"},
+    {"056IPG", "677500", "677999"},
+    {"059IPG", "678000", "678999"},
+    {"061IPG", "679000", "679999"},
+    {"072IPG", "680000", "680499"},
+    {"076IPG", "680500", "683499"},
+};
+// clang-format on
+
+/** Whether a department group of `n` three-character entries holds both. */
+bool groupeContient(const tValAutorise* groupe, int n, const char* a, const char* b) {
+    return debutDansListe(a, groupe, n, 3) && debutDansListe(b, groupe, n, 3);
+}
+
+/** The date is not after `reference`, its year moved on by `ansDePlus`. */
+int pasApresDecale(const char* reference, const char* date, int ansDePlus) {
+    if (ansDePlus == 0) return fCoherenDCSupInf(reference, date, INF);
+    const dateInversee origine(reference);
+    char limite[32] = "";
+    // The year is plain digits and may grow to five. A date cut inside its
+    // year has neither month nor day; one cut before it stays empty.
+    if (origine.texte[0] != '\0')
+        std::snprintf(limite, sizeof limite, "%lld%s", nombre(reference, 5, 4) + ansDePlus,
+                      aPartirDe(origine.texte, 5));
+    dateInversee champ(date);
+    champ.blancsEnZeros();
+    return std::strcmp(champ.texte, limite) <= 0;
+}
+
+}  // namespace
+
+int fCoherenCC(const char* dependance, char* champ, const void*, int) {
+    constexpr const char* OUTRE_MER[] = {"971", "972", "973", "974", "976"};
+    if (memeDebut(dependance, "POINTFOC", 8)) return 1;
+    if (memeDebut(dependance, "02A", 3) || memeDebut(dependance, "02B", 3))
+        return memeDebut(champ, "20", 2);
+    for (const char* dep : OUTRE_MER) {
+        if (!memeDebut(dependance, dep, 3)) continue;
+        return memeDebut(champ, dep, 3) || (memeDebut(champ, "98", 2) && egal(dep, "974"));
+    }
+    return memeDebut(champ, aPartirDe(dependance, 2), 2);
+}
+
+int fCoherenCC_tr(const char* dependance, char* champ, const void* sverif, int lenSverif) {
+    return causeJ() || fCoherenCC(dependance, champ, sverif, lenSverif);
+}
+
+int fCoherenCCD(const char* dependance, char* champ, const void*, int) {
+    return memeDebut(champ, dependance, 3) || (memeDebut(champ, "098", 3) && memeDebut(dependance, "974", 3));
+}
+
+int fCoherenCCDR(const char* dependance, char* champ, const void*, int) {
+    if (memeDebut(dependance, champ, 3)) return 1;
+    for (int rang = 0; rang < 2; ++rang) {
+        if (groupeContient(DPT2[rang], LenDPT2, dependance, champ)) return 1;
+        if (groupeContient(DPT4[rang], LenDPT4, dependance, champ)) return 1;
+        if (groupeContient(DPT5[rang], LenDPT5, dependance, champ)) return 1;
+    }
+    return groupeContient(DPT3, LenDPT3, dependance, champ) ||
+           groupeContient(DPT6, LenDPT6, dependance, champ) ||
+           groupeContient(DPT7, LenDPT7, dependance, champ) ||
+           groupeContient(DPT8, LenDPT8, dependance, champ) ||
+           groupeContient(DPT17, LenDPT17, dependance, champ);
+}
+
+int fCoherenCCE(const char* emetteur, const char* codeDep) {
+    if (egal(emetteur, codeDep)) return 1;
+    if (memeDebut(emetteur, "NORM01", 6) || memeDebut(emetteur, "NORM02", 6) ||
+        memeDebut(emetteur, "PFOC01", 6))
+        return 1;
+    return pairesTEDC(emetteur, codeDep);
+}
+
+int pairesTEDC(const char* emetteur, const char* codeDep) {
+    for (int rang = 0; rang < LenTEDC && TEDC[rang][0].valeur != nullptr; ++rang)
+        if (egal(TEDC[rang][0].valeur, emetteur) && egal(TEDC[rang][1].valeur, codeDep)) return 1;
+    return 0;
+}
+
+int fCoherenCCEget(const char* dependance, char* champ, const void* sverif, int lenSverif) {
+    const char* const production = corps(C4);
+    if (egal(production, "V")) {
+        const tValAutorise* const series = listeDe(sverif);
+        const char serie[3] = {carac(champ, 1), carac(champ, 2), '\0'};
+        for (int paire = 0; paire < lenSverif / 2; ++paire)
+            if (memeDebut(series[2 * paire].valeur, dependance, 6))
+                return std::strstr(series[2 * paire + 1].valeur, serie) != nullptr;
+        return 0;
+    }
+    if (!egal(production, "P")) return 0;
+    if (memeDebut(dependance, "971IPG", 6))
+        return memeDebut(champ, "971", 3) || memeDebut(champ, "97A", 3) || memeDebut(champ, "97C", 3) ||
+               memeDebut(champ, "97D", 3);
+    if (memeDebut(dependance, "972IPG", 6)) return memeDebut(champ, "972", 3) || memeDebut(champ, "97B", 3);
+    if (memeDebut(dependance, "973IPG", 6)) return memeDebut(champ, "973", 3);
+    if (memeDebut(dependance, "976IPG", 6)) return memeDebut(champ, "976", 3);
+    if (memeDebut(dependance, "974IPG", 6)) return memeDebut(champ, "98", 2);  // not "974"
+    return memeDebut(champ, aPartirDe(dependance, 2), 2);
+}
+
+int fCoheren_OC_IND_M(const char* dependance, char* champ, const void* sverif, int lenSverif) {
+    const tValAutorise* const triples = listeDe(sverif);
+    const int nombreTriples = lenSverif / 3;
+    int courant = 0;
+    // An unknown body stops on the last triple, whose range is then used.
+    while (courant < nombreTriples - 1 && !memeDebut(triples[3 * courant].valeur, dependance, 6)) ++courant;
+    if (nombreTriples > 0 &&
+        entre(champ, triples[3 * courant + 1].valeur, triples[3 * courant + 2].valeur, 6))
+        return 1;
+    for (const plage& p : PLAGES_SUPPLEMENTAIRES)
+        if (memeDebut(p.code, dependance, 6) && entre(champ, p.bas, p.haut, 6)) return 1;
+    return 0;
+}
+
+int fCoherenDCSupInf(const char* reference, const char* date, esupInf sens) {
+    const dateInversee d(reference);
+    dateInversee c(date);
+    c.blancsEnZeros();
+    const int ordre = std::strcmp(c.texte, d.texte);
+    return sens == INF ? ordre <= 0 : ordre >= 0;
+}
+
+int fCoherenDC(const char* dependance, char* champ, const void*, int) {
+    return fCoherenDCSupInf(dependance, champ, INF);
+}
+
+int fCoherenDateSup(const char* dependance, char* champ, const void*, int) {
+    return fCoherenDCSupInf(dependance, champ, SUP);
+}
+
+int fCoherenDC_tr(const char* dependance, char* champ, const void*, int) {
+    return pasApresDecale(dependance, champ, causeJ() ? 1 : 0);
+}
+
+int fCoherenDC_tr2(const char* dependance, char* champ, const void*, int) {
+    return pasApresDecale(dependance, champ, 1);
+}
+
+int fCoherenD_OC_an_1(const char*, char* champ, const void*, int) { return chiffres(champ, 1, 4); }
+
+int fCoherenD_OC_an_2(const char* dependance, char* champ, const void*, int) {
+    const dateInversee d(dependance);
+    char annee[5] = {};
+    std::memcpy(annee, d.texte, strnlen(d.texte, 4));
+    return std::strcmp(champ, annee) < 0;
+}
+
+int fDATECouI(char* champ, eCouI mode) {
+    if (mode == INCOMPLETE) {
+        if (blancs(champ, 1, 4)) {
+            std::memcpy(champ, "0000", 4);
+        } else {
+            const bool jourEcritZero = memeDebut(champ, "00", 2);
+            if (blancs(champ, 1, 2)) std::memcpy(champ, "00", 2);
+            // Unknown parts are blanks, never zeros: the first character is
+            // spoilt so that the digit test below refuses the field.
+            if (champ[0] == ' ' || jourEcritZero || memeDebut(aPartirDe(champ, 3), "00", 2)) champ[0] = ' ';
+        }
+    }
+    if (!chiffres(champ, 1, 8)) return 0;
+    auto jour = static_cast<std::int32_t>(nombre(champ, 1, 2));
+    auto mois = static_cast<std::int32_t>(nombre(champ, 3, 2));
+    const auto annee = static_cast<std::int32_t>(nombre(champ, 5, 4));
+    if (mode == INCOMPLETE) {
+        if (jour == 0) jour = 1;
+        if (mois == 0) mois = 1;
+    }
+    return annee >= 1900 && DateCalc_check_date(annee, mois, jour);
+}
+
+}  // namespace quilvane

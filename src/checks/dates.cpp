@@ -1,0 +1,157 @@
+/**
+ * dates - whether a date or time is well formed and plausible: complete or
+ * partly unknown, before or after another date of its record.
+ */
+#include <ctime>
+
+#include "calendar/horloge.h"
+#include "checks/lecture.h"
+#include "checks/utils.h"
+
+namespace quilvane {
+
+namespace {
+
+bool dateBlanche(const char* date) { return egal(date, HuitBlancs[0].valeur); }
+bool jourBlanc(const char* date) { return memeDebut(date, "  ", 2); }
+bool moisBlanc(const char* date) { return memeDebut(aPartirDe(date, 3), "  ", 2); }
+bool depuis(const char* date, const tValAutorise* reference) { return fVTABP(date, reference[0].valeur); }
+
+/** Empty text or a run of at most thirty blanks. */
+bool vide30(const char* texte) { return std::strlen(texte) <= 30 && videOuBlanc(texte); }
+
+/** Year from which slaughter notices exist, excluded. */
+constexpr int DERNIERE_ANNEE_SANS_AVIS = 1997;
+
+}  // namespace
+
+int fDATEC(const char*, char* champ, const void*, int) { return fDATECouI(champ, COMPLETE); }
+
+int fDATEI(const char*, char* champ, const void*, int) { return fDATECouI(champ, INCOMPLETE); }
+
+int fDATECxad(const char*, char* champ, const void*, int) {
+    return dateBlanche(champ) || fDATECouI(champ, COMPLETE);
+}
+
+int fDatRecCorr(const char* dependance, char* champ, const void* sverif, int lenSverif) {
+    return fDATECxad(dependance, champ, sverif, lenSverif);
+}
+
+int fDATEC_INC(const char*, char* champ, const void*, int) {
+    return blancs(champ, 1, 8) || fDATECouI(champ, COMPLETE);
+}
+
+int fDATEC_xad(const char* dependance, char* champ, const void* sverif, int lenSverif) {
+    return std::strlen(champ) == 8 && fDATECxad(dependance, champ, sverif, lenSverif);
+}
+
+int fDatRecCorr_O(const char*, char* champ, const void*, int) {
+    return !dateBlanche(champ) && fDATECouI(champ, COMPLETE);
+}
+
+int fDatRecCorr_O_P18(const char* dependance, char* champ, const void*, int) {
+    return dateBlanche(champ) ? !depuis(dependance, P18) : fDATECouI(champ, COMPLETE);
+}
+
+int fDATEP6(const char*, char* champ, const void*, int) {
+    if (depuis(champ, P6) && (moisBlanc(champ) || jourBlanc(champ))) return 0;
+    return fDATECouI(champ, INCOMPLETE);
+}
+
+int fDATEP6P7(const char*, char* champ, const void*, int) {
+    const bool depuisP7 = depuis(champ, P7);
+    if (depuis(champ, P6)) {
+        if (depuisP7) return fDATECouI(champ, COMPLETE);
+        if (moisBlanc(champ)) return 0;
+    } else if (depuisP7 && jourBlanc(champ)) {
+        return 0;
+    }
+    return fDATECouI(champ, INCOMPLETE);
+}
+
+int fDatRecCohe(const char* dependance, char* champ, const void*, int) {
+    return dateBlanche(champ) || fCoherenDCSupInf(dependance, champ, INF);
+}
+
+int fDatRecPost(const char* dependance, char* champ, const void*, int) {
+    return dateBlanche(champ) || fCoherenDCSupInf(dependance, champ, SUP);
+}
+
+int fDatRecPost_tr(const char* dependance, char* champ, const void* sverif, int lenSverif) {
+    return egal(corps(C5), "J") || fDatRecPost(dependance, champ, sverif, lenSverif);
+}
+
+int fDatRec_OC_Post(const char* dependance, char* champ, const void*, int) {
+    if (dateBlanche(champ)) return 1;
+    const char* const depuisAnnee = aPartirDe(champ, 5);
+    char annee[5] = {};
+    std::memcpy(annee, depuisAnnee, strnlen(depuisAnnee, 4));
+    return std::strcmp(annee, dependance) > 0;
+}
+
+int fVerifValAutDate(const char* dependance, char* champ, const void* sverif, int lenSverif) {
+    const tValAutorise* const causes = listeDe(sverif);
+    for (int paire = 0; paire < lenSverif / 2; ++paire) {
+        if (!egal(causes[2 * paire].valeur, champ)) continue;
+        const char* const limite = causes[2 * paire + 1].valeur;
+        return egal(limite, "TOUJOURS") || fCoherenDCSupInf(limite, dependance, INF);
+    }
+    return 0;
+}
+
+int fHEUREC(const char*, char* champ, const void*, int) {
+    return chiffres(champ, 1, 6) && nombre(champ, 1, 2) < 24 && nombre(champ, 3, 2) < 60 &&
+           nombre(champ, 5, 2) < 60;
+}
+
+int fDATEHEUREC(const char* dependance, char* champ, const void* sverif, int lenSverif) {
+    const std::time_t present = maintenant();
+    if (!fHEUREC("", champ, sverif, lenSverif) || !chiffres(dependance, 1, 8)) return 0;
+    const auto lire = [](const char* texte, int col, int largeur) {
+        return static_cast<int>(nombre(texte, col, largeur));
+    };
+    const int jour = lire(dependance, 1, 2);
+    const int mois = lire(dependance, 3, 2);
+    const int annee = lire(dependance, 5, 4);
+    if (mois == 0 || annee < 1970 || annee > 2038 || jour == 0) return 0;
+    std::tm moment{};
+    moment.tm_mday = jour;
+    moment.tm_mon = mois - 1;
+    moment.tm_year = annee - 1900;
+    moment.tm_hour = lire(champ, 1, 2);
+    moment.tm_min = lire(champ, 3, 2);
+    moment.tm_sec = lire(champ, 5, 2);
+    moment.tm_isdst = -1;
+    const std::time_t instant = std::mktime(&moment);
+    if (instant == static_cast<std::time_t>(-1)) return 0;
+    if (moment.tm_mday != jour || moment.tm_mon != mois - 1 || moment.tm_year != annee - 1900) return 0;
+    return std::difftime(present, instant) > 0;
+}
+
+int fSimult(const char* dependance, char* champ, const void*, int) {
+    return vide30(dependance) == vide30(champ);
+}
+
+int fVerifDateInput(const char*, char*, const void*, int) { return 1; }
+
+int fVerifDateInputCvse(const char*, char*, const void*, int) { return 1; }
+
+int fVerifDateInputPost(const char*, char* champ, const void*, int) {
+    return videOuBlanc(champ) || nombre(champ, 5, 4) > DERNIERE_ANNEE_SANS_AVIS;
+}
+
+int fVerifDateAbatPost(const char*, char* champ, const void*, int) {
+    return nombre(champ, 5, 4) > DERNIERE_ANNEE_SANS_AVIS;
+}
+
+int fVerifDateAbatPostEntr(const char*, char* champ, const void*, int) {
+    const char* const entree = cp.DATE_ENTREE_ABAT;
+    if (dateBlanche(entree) || dateBlanche(champ)) return 1;
+    const long long annees = nombre(entree, 5, 4) - nombre(champ, 5, 4);
+    if (annees != 0) return annees < 0;
+    const long long mois = nombre(entree, 3, 2) - nombre(champ, 3, 2);
+    if (mois != 0) return mois < 0;
+    return nombre(entree, 1, 2) <= nombre(champ, 1, 2);
+}
+
+}  // namespace quilvane

@@ -1,0 +1,97 @@
+/**
+ * lecture.h - small readers of fixed columns, the words in which the checks
+ * are written.
+ *
+ * Columns are numbered from 1. No reader looks behind a text's terminator: a
+ * character that is not there is no digit, no blank and no letter. Letters
+ * and digits are those of ASCII; texts are compared as unsigned bytes.
+ */
+#ifndef QUILVANE_CHECKS_LECTURE_H
+#define QUILVANE_CHECKS_LECTURE_H
+
+#include <cstring>
+
+namespace quilvane {
+
+constexpr bool estChiffre(char c) { return c >= '0' && c <= '9'; }
+constexpr bool estMajuscule(char c) { return c >= 'A' && c <= 'Z'; }
+constexpr bool estLettre(char c) { return estMajuscule(c) || (c >= 'a' && c <= 'z'); }
+constexpr bool estLettreOuChiffre(char c) { return estLettre(c) || estChiffre(c); }
+
+/** The text from column `col` on; empty when the text ends before it. */
+inline const char* aPartirDe(const char* texte, int col) {
+    return texte + strnlen(texte, static_cast<std::size_t>(col - 1));
+}
+
+/** The character of column `col`, a zero when the text ends before it. */
+inline char carac(const char* texte, int col) { return *aPartirDe(texte, col); }
+
+/** Whether columns `de` to `a` are there and all satisfy `test`. */
+template <typename Test>
+bool tous(const char* texte, int de, int a, Test test) {
+    const char* p = aPartirDe(texte, de);
+    for (int col = de; col <= a; ++col, ++p)
+        if (*p == '\0' || !test(*p)) return false;
+    return true;
+}
+
+/** Whether columns `de` to `a` are all digits, all blanks. */
+inline bool chiffres(const char* texte, int de, int a) { return tous(texte, de, a, estChiffre); }
+inline bool blancs(const char* texte, int de, int a) {
+    return tous(texte, de, a, [](char c) { return c == ' '; });
+}
+
+/** Whether a blank stands in columns `de` to `a`. */
+inline bool contientBlanc(const char* texte, int de, int a) {
+    const char* p = aPartirDe(texte, de);
+    for (int col = de; col <= a && *p != '\0'; ++col, ++p)
+        if (*p == ' ') return true;
+    return false;
+}
+
+/** Whether the whole texts are equal. */
+inline bool egal(const char* a, const char* b) { return std::strcmp(a, b) == 0; }
+
+/** Whether the texts, each cut after `n` characters, are equal. */
+inline bool memeDebut(const char* a, const char* b, int n) {
+    return std::strncmp(a, b, static_cast<std::size_t>(n)) == 0;
+}
+
+/** Whether the first `n` characters, compared as text, lie in `bas`..`haut`. */
+inline bool entre(const char* texte, const char* bas, const char* haut, int n) {
+    const auto largeur = static_cast<std::size_t>(n);
+    return std::strncmp(texte, bas, largeur) >= 0 && std::strncmp(texte, haut, largeur) <= 0;
+}
+
+/** Whether the text is empty or made only of blanks. */
+inline bool videOuBlanc(const char* texte) { return texte[std::strspn(texte, " ")] == '\0'; }
+
+/** Index of the last character that is no blank, -1 when there is none. */
+inline int dernierNonBlanc(const char* texte) {
+    int i = static_cast<int>(std::strlen(texte)) - 1;
+    while (i >= 0 && texte[i] == ' ') --i;
+    return i;
+}
+
+/**
+ * The number in `largeur` columns from `col` on (by default all that follow):
+ * leading white space, one sign, digits up to the first non-digit. Far beyond
+ * what a record's columns hold the value stops growing, so that sums of two
+ * numbers never overflow.
+ */
+long long nombre(const char* texte, int col = 1, int largeur = 256);
+
+/**
+ * Rewrites a DDMMYYYY date as YYYYMMDD, for comparison as text. A date that
+ * its record cut short ends at its first missing character.
+ */
+struct dateInversee {
+    char texte[9];
+    explicit dateInversee(const char* jjmmaaaa);
+    /** An unknown day or month counts as zero. */
+    void blancsEnZeros();
+};
+
+}  // namespace quilvane
+
+#endif
