@@ -1,0 +1,117 @@
+/**
+ * moteur - cutting a record into fields and walking its rule table. Knows no
+ * message type: everything it needs stands in the rows.
+ */
+#include "rules/moteur.h"
+
+#include <cstdio>
+#include <cstring>
+
+#include "rules/latin1.h"
+
+namespace quilvane {
+
+namespace {
+
+constexpr int ERR_GENRE = 86;       // field not allowed for the transaction kind
+constexpr int ERR_CARACTERE = 106;  // byte outside 0x20..0x7E
+constexpr int ERR_TROP_LONG = 107;
+constexpr int ERR_TROP_COURT = 108;
+
+/** What a row asks for a transaction kind; other values are not allowed. */
+enum ePresence { A_VERIFIER = 0, IGNORE = 1, INTERDIT = -1 };
+
+constexpr texteLatin1 MSG_CARACTERE("VSE  cars non autorisés \n");
+
+/** The presence column of a transaction kind, null when no column is its own. */
+using colonne = int sCorps::*;
+colonne colonneDuGenre(const char* genre) {
+    struct ligne {
+        const char* genre;
+        colonne code;
+    };
+    constexpr ligne GENRES[] = {
+        {"CRE", &sCorps::typeCRE}, {"DEM", &sCorps::typeDEM}, {"INV", &sCorps::typeINV},
+        {"EDI", &sCorps::typeEDI}, {"MOD", &sCorps::typeMOD},
+        {"ECQ", &sCorps::typeCRE},  // an error return is read as a creation
+    };
+    for (const ligne& l : GENRES)
+        if (std::strcmp(genre, l.genre) == 0) return l.code;
+    return nullptr;
+}
+
+/** Framing faults of the record; a fault is reset once it is stored. */
+int erreursDeCadrage(int visu, int compte) {
+    const auto noter = [&](int& drapeau, const char* message, int numero) {
+        if (visu == VISU_INFORMATIQUE) std::fputs(message, stdout);
+        if (compte >= MAX_ERREURS) return;
+        compte = ajouterErreur(compte, numero);
+        drapeau = 0;
+    };
+    if (codCaract == 1) noter(codCaract, MSG_CARACTERE, ERR_CARACTERE);
+    if (codLong == 1)
+        noter(codLong, "VSE trop long ", ERR_TROP_LONG);
+    else if (codLong == 2)
+        noter(codLong, "VSE trop court ", ERR_TROP_COURT);
+    return compte;
+}
+
+}  // namespace
+
+void getvseChamps(const sCorps* tCorps, int lCorps, const char* tampon, valeurVSE* tValVSE, int visu) {
+    const auto longueur = static_cast<int>(strnlen(tampon, TAILLE_XDEBUG - 1));
+    std::memmove(xdebug, tampon, static_cast<std::size_t>(longueur));
+    xdebug[longueur] = '\0';
+
+    constexpr int PETIT = 16;  // fields up to this width are copied in one piece
+    static_assert(DERNIERE_COL_CORPS + PETIT < TAILLE_XDEBUG && LARGEUR_VSE + PETIT < TAILLE_XDEBUG);
+    for (const sCorps* ligne = tCorps; ligne != tCorps + lCorps; ++ligne) {
+        if (ligne->fin == 0) continue;
+        char* const valeur = (tValVSE++)->valeur;
+        const int avant = ligne->debut - 1;
+        int n = ligne->fin - avant;
+        if (n > longueur - avant) n = longueur > avant ? longueur - avant : 0;
+        if (n > PETIT)
+            std::memcpy(valeur, xdebug + avant, static_cast<std::size_t>(n));
+        else
+            std::memcpy(valeur, xdebug + avant, PETIT);
+        valeur[n] = '\0';
+    }
+    if (visu == VISU_DECRIPTEE) std::fputc('\n', stdout);
+}
+
+int verifChamps(int visu, int nbErreurPassee, const sCorps* pChamps, int lpChamps,
+                valeurVSE* valChampsVSE, const char* valE5, const char* premLettre) {
+    int compte = erreursDeCadrage(visu, nbErreurPassee);
+    const colonne presence = valE5 != nullptr ? colonneDuGenre(valE5) : nullptr;
+    int emplacement = -1;
+
+    for (const sCorps* ligne = pChamps; ligne != pChamps + lpChamps; ++ligne) {
+        if (ligne->debut != 0) ++emplacement;
+        if (visu == VISU_DECRIPTEE) std::printf("champ: %d  ", ligne->numChamp + 1);
+        if (compte >= MAX_ERREURS || ligne->pfVerif == nullptr) continue;
+
+        char* const valeur = valChampsVSE[emplacement].valeur;
+        const int code = valE5 == nullptr      ? A_VERIFIER
+                         : presence == nullptr ? INTERDIT
+                                               : ligne->*presence;
+        if (code == IGNORE) {
+            if (visu == VISU_DECRIPTEE) std::printf("verif ignoree! '%s'\n", valeur);
+            continue;
+        }
+        int numero = ERR_GENRE;
+        if (code == A_VERIFIER) {
+            if (visu == VISU_DECRIPTEE) std::printf("'%s'\n", valeur);
+            if (ligne->pfVerif(ligne->dependance, valeur, ligne->sverif, *ligne->plenSverif)) continue;
+            if (visu == VISU_DECRIPTEE) std::printf("! erreurChamp sur [%s]\n", valeur);
+            numero = ligne->noErr;
+        } else if (visu == VISU_DECRIPTEE) {
+            std::printf("verifOblg = [%d]\n", code);
+        }
+        if (visu == VISU_INFORMATIQUE) std::printf("%s%i.%i;", premLettre, emplacement + 1, numero);
+        compte = ajouterErreur(compte, numero);
+    }
+    return compte;
+}
+
+}  // namespace quilvane

@@ -1,0 +1,34 @@
+/**
+ * moteur.h - the engine that applies a rule table to a record.
+ */
+#ifndef QUILVANE_RULES_MOTEUR_H
+#define QUILVANE_RULES_MOTEUR_H
+
+#include "rules/pack.h"
+
+namespace quilvane {
+
+/** Console mode: `visu` of the engine and of record processing. */
+enum eVisu { VISU_AUCUNE = 0, VISU_INFORMATIQUE = 1, VISU_DECRIPTEE = 2 };
+
+/**
+ * Cuts a record into value slots: the n-th row with columns fills slot n-1.
+ * Nothing is trimmed or padded; a record that ends inside or before a field
+ * gives a shorter or empty slot. Refreshes `xdebug`. `tValVSE` has a slot for
+ * every row with columns. In mode -d an empty line is printed.
+ */
+void getvseChamps(const sCorps* tCorps, int lCorps, const char* tampon, valeurVSE* tValVSE, int visu);
+
+/**
+ * Applies a table to the slots cut with it. `valE5` is the transaction kind
+ * for a body table and null for header, footer and FICH tables, whose rows are
+ * all checked. Error numbers go to `codeErreur` behind the `nbErreurPassee`
+ * already there, ten at most; the framing faults 106, 107 and 108 come first.
+ * `premLettre` names the part in traces ("E", "C", "F"). Returns the new count.
+ */
+int verifChamps(int visu, int nbErreurPassee, const sCorps* pChamps, int lpChamps,
+                valeurVSE* valChampsVSE, const char* valE5, const char* premLettre);
+
+}  // namespace quilvane
+
+#endif
