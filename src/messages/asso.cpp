@@ -1,0 +1,140 @@
+/**
+ * ASSO - ties a company, agricultural or approval number to a
+ * holding. The shape of the number (C6) follows from its type (C5); exactly
+ * one of the shape checks applies to a record.
+ */
+#include "checks/lecture.h"
+#include "checks/utils.h"
+#include "messages/messages.h"
+
+namespace quilvane {
+
+namespace {
+
+/** Kind of identifier. */
+bool genreEst(char lettre) { return *corps(C4) == lettre; }
+
+/** Type of number; "CEM" is three characters, the others five. */
+bool typeEst(const char* type) { return memeDebut(corps(C5), type, static_cast<int>(std::strlen(type))); }
+
+enum eCle { SANS_CLE, LUHN };
+
+/** `n` digits, their Luhn key if asked for, then blanks to column 20. */
+int numeroEntreprise(const char* champ, int n, eCle cle) {
+    if (!chiffres(champ, 1, n)) return 0;
+    if (cle == LUHN) {
+        char numero[15];
+        std::memcpy(numero, champ, static_cast<std::size_t>(n));
+        numero[n] = '\0';
+        if (!fVerifLuhn(numero)) return 0;
+    }
+    return blancs(champ, n + 1, 20);
+}
+
+/** A capital, digits up to column `n`, then blanks to column 20. */
+int numeroAgricole(const char* champ, int n) {
+    return estMajuscule(champ[0]) && chiffres(champ, 2, n) && blancs(champ, n + 1, 20);
+}
+
+bool dateBlanche(const char* champ) { return egal(champ, HuitBlancs[0].valeur); }
+
+}  // namespace
+
+int asso_fC2_1(const char*, char* champ, const void* sverif, int lenSverif) {
+    return !genreEst('E') || fCoherenCC(entete(E8), champ, sverif, lenSverif);
+}
+
+int asso_fC2_2(const char*, char* champ, const void*, int) {
+    return !genreEst('E') || fConform8("", champ, TD, LenTD);
+}
+
+int asso_fC5(const char*, char*, const void*, int) {
+    if (genreEst('D')) return typeEst("SIREN") || typeEst("AGRIN");
+    if (genreEst('E')) return typeEst("SIRET") || typeEst("AGRIT") || typeEst("AGRSA") || typeEst("CEM");
+    return 0;
+}
+
+int asso_fC6_1(const char*, char* champ, const void*, int) {
+    return !typeEst("SIREN") || numeroEntreprise(champ, 9, LUHN);
+}
+
+int asso_fC6_1_INV(const char*, char* champ, const void*, int) {
+    return !typeEst("SIREN") || numeroEntreprise(champ, 9, SANS_CLE);
+}
+
+int asso_fC6_2(const char*, char* champ, const void*, int) {
+    return !typeEst("SIRET") || numeroEntreprise(champ, 14, LUHN);
+}
+
+int asso_fC6_2_INV(const char*, char* champ, const void*, int) {
+    return !typeEst("SIRET") || numeroEntreprise(champ, 14, SANS_CLE);
+}
+
+int asso_fC6_3(const char*, char* champ, const void*, int) {
+    return !typeEst("AGRIN") || numeroAgricole(champ, 9);
+}
+
+int asso_fC6_4(const char*, char* champ, const void*, int) {
+    return !typeEst("AGRIT") || numeroAgricole(champ, 12);
+}
+
+int asso_fC6_5(const char*, char* champ, const void* sverif, int lenSverif) {
+    if (!typeEst("AGRSA")) return 1;
+    if (contientBlanc(champ, 1, 7)) return 0;
+    if (!memeDebut(champ, "2A", 2) && !memeDebut(champ, "2B", 2)) {
+        // "20" and "98" are in the list but give no approval numbers.
+        if (memeDebut(champ, "20", 2) || memeDebut(champ, "98", 2)) return 0;
+        if (memeDebut(champ, "97", 2) && (!entre(champ, "971", "976", 3) || memeDebut(champ, "975", 3)))
+            return 0;
+        if (!debutDansListe(champ, listeDe(sverif), lenSverif, 2)) return 0;
+    }
+    return blancs(champ, 9, 20);
+}
+
+int asso_fC6_6(const char*, char* champ, const void*, int) {
+    return !typeEst("CEM") || (tous(champ, 1, 7, estLettreOuChiffre) && blancs(champ, 8, 20));
+}
+
+int asso_fC8_1(const char* dependance, char* champ, const void* sverif, int lenSverif) {
+    return dateBlanche(champ) || fDATEC(dependance, champ, sverif, lenSverif);
+}
+
+int asso_fC8_2(const char* dependance, char* champ, const void* sverif, int lenSverif) {
+    return dateBlanche(champ) || fCoherenDateSup(dependance, champ, sverif, lenSverif);
+}
+
+int asso_fC8_3(const char* dependance, char* champ, const void* sverif, int lenSverif) {
+    return dateBlanche(champ) || fCoherenDC(dependance, champ, sverif, lenSverif);
+}
+
+// clang-format off
+constexpr int lAsso = 23;
+constexpr sCorps tAsso[lAsso] = {
+    //field  first  last  CRE  DEM  INV  EDI  MOD  check           count            list         dependency  error
+    {C1,       63,   64,   0,   2,   0,   2,   0, fVerifValAut,   &LenFR,          FR,          aucune,        30},
+    {C2,       65,   76,   0,   2,   0,   2,   0, fVerifDiffNull, &LenDouzeBlancs, DouzeBlancs, aucune,        30},
+    {C2,        0,    0,   0,   2,   0,   2,   0, asso_fC2_1,     &Len0,           nullptr,     aucune,        50},
+    {C2,        0,    0,   0,   2,   0,   2,   0, asso_fC2_2,     &Len0,           nullptr,     aucune,        68},
+    {C3,       77,   78,   1,   1,   1,   1,   1, nullptr,        &Len0,           nullptr,     aucune,         0},
+    {C4,       79,   79,   0,   2,   0,   2,   0, fVerifValAut,   &LenTYP_IDENT,   TYP_IDENT,   aucune,       171},
+    {C5,       80,   84,   0,   2,   0,   2,   0, fVerifValAut,   &LenTYP_NUMERO,  TYP_NUMERO,  aucune,       172},
+    {C5,        0,    0,   0,   2,   1,   2,   0, asso_fC5,       &Len0,           nullptr,     aucune,       183},
+    {C6,       85,  104,   0,   2,   0,   2,   0, fVerifDiffNull, &LenvingtBlancs, vingtBlancs, aucune,       173},
+    {C6,        0,    0,   0,   2,   1,   2,   0, asso_fC6_1,     &Len0,           nullptr,     aucune,       136},
+    {C6,        0,    0,   1,   2,   0,   2,   1, asso_fC6_1_INV, &Len0,           nullptr,     aucune,       136},
+    {C6,        0,    0,   0,   2,   1,   2,   0, asso_fC6_2,     &Len0,           nullptr,     aucune,        41},
+    {C6,        0,    0,   1,   2,   0,   2,   1, asso_fC6_2_INV, &Len0,           nullptr,     aucune,        41},
+    {C6,        0,    0,   0,   2,   0,   2,   0, asso_fC6_3,     &Len0,           nullptr,     aucune,       181},
+    {C6,        0,    0,   0,   2,   0,   2,   0, asso_fC6_4,     &Len0,           nullptr,     aucune,       181},
+    {C6,        0,    0,   0,   2,   0,   2,   0, asso_fC6_5,     &LenTD,          TD,          aucune,       184},
+    {C6,        0,    0,   0,   2,   0,   2,   0, asso_fC6_6,     &Len0,           nullptr,     aucune,       181},
+    {C7,      105,  112,   0,   2,   1,   2,   0, fDATEC,         &Len0,           nullptr,     aucune,       174},
+    {C7,        0,    0,   0,   2,   1,   2,   0, fCoherenDC,     &Len0,           nullptr,     fin(F1),       52},
+    {C8,      113,  120,   0,   2,   1,   2,   0, asso_fC8_1,     &Len0,           nullptr,     aucune,       175},
+    {C8,        0,    0,   0,   2,   1,   2,   0, asso_fC8_2,     &Len0,           nullptr,     corps(C7),    149},
+    {C8,        0,    0,   0,   2,   1,   2,   0, asso_fC8_3,     &Len0,           nullptr,     fin(F1),       52},
+    {C9,      121,  230,   1,   1,   1,   1,   1, nullptr,        &Len0,           nullptr,     aucune,         0},
+};
+// clang-format on
+
+}  // namespace quilvane
