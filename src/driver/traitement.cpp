@@ -1,0 +1,220 @@
+#include "driver/traitement.h"
+
+#include <cstdio>
+#include <cstring>
+
+#include "checks/utils.h"
+#include "driver/etat.h"
+#include "driver/publication.h"
+#include "driver/sorties.h"
+#include "messages/aiguillage.h"
+#include "messages/messages.h"
+#include "rules/entete.h"
+#include "rules/moteur.h"
+
+namespace quilvane {
+
+namespace {
+
+constexpr int ERR_EMETTEUR_CORPS = 135;   // emitter may not send for this body
+constexpr int ERR_EMETTEUR = 110;         // emitter may not send this type
+constexpr int ERR_RECEPTEUR = 85;         // receiver does not take this type
+constexpr int ERR_CORPS_ABAT = 129;       // slaughter notice of another body
+constexpr int ERR_FICH_EN_TROP = 109;     // second FICH record
+constexpr int ERR_PARTENAIRE = 182;       // partner may not send this record
+constexpr int ERR_C3_NATIONAL = 64;
+constexpr int ERR_C3_LOCAL = 51;
+constexpr int ERR_C3_VARIANTE_DL = 806;
+constexpr int ERR_C3_VARIANTE_PF = 807;
+constexpr int ERR_SANS_EXP2 = 105;
+constexpr int ERR_SANS_RATA = 138;
+constexpr int TAILLE_NUMERO_FICHIER = 16;
+
+bool egal(const char* a, const char* b) { return std::strcmp(a, b) == 0; }
+bool typeEst(const char* type) { return egal(entete(E6), type); }
+bool genreEst(const char* genre) { return egal(entete(E5), genre); }
+bool varianteEst(const char* variante) { return egal(VARIANTE, variante); }
+
+/** Copies at most `n` characters and terminates. */
+void copier(char* destination, const char* source, std::size_t n) {
+    const std::size_t presents = strnlen(source, n);
+    std::memcpy(destination, source, presents);
+    destination[presents] = '\0';
+}
+
+bool emetteurNational() {
+    return egal(sauvEmetteur, "NORM01  ") || egal(sauvEmetteur, "NORM02  ") || egal(sauvEmetteur, "PFOC01  ");
+}
+
+/** Who may send what to whom, before any table rule. */
+int reglesAdmission(int compte) {
+    if (varianteEst("QUILVANE  ") && !fCoherenCCE(sauvEmetteur, entete(E8)))
+        compte = ajouterErreur(compte, ERR_EMETTEUR_CORPS);
+    if (typeEst("INFO") && genreEst("DEM")) {
+        if (!egal(sauvEmetteur, "NORM02  ") && !egal(sauvEmetteur, "PFOC01  "))
+            compte = ajouterErreur(compte, ERR_EMETTEUR);
+        if (!egal(sauvRecepteur, "031BDN  ")) compte = ajouterErreur(compte, ERR_RECEPTEUR);
+    }
+    if (typeEst("ABAT")) {
+        if (egal(sauvEmetteur, "NORM01  ")) {
+            if (!egal(entete(E8), "NORMABEV")) compte = ajouterErreur(compte, ERR_CORPS_ABAT);
+        } else if (std::strncmp(sauvEmetteur, "OFFICE", 6) != 0 && std::strncmp(sauvEmetteur, "ONICAB", 6) != 0) {
+            compte = ajouterErreur(compte, ERR_EMETTEUR);
+        }
+    }
+    if (typeEst("FICH")) compte = ajouterErreur(compte, ERR_FICH_EN_TROP);
+    return compte;
+}
+
+/** What a build variant asks of body field C3; 0 for no error. */
+int regleVariante() {
+    const char* const c3 = corps(C3);
+    if (varianteEst("QUILVANE  ")) {
+        if (!egal(c3, "xx")) return 0;
+        return emetteurNational() ? ERR_C3_NATIONAL : ERR_C3_LOCAL;
+    }
+    const bool vide = egal(c3, "  ") || egal(c3, "10");
+    if (varianteEst("QUILVANED ")) return vide ? 0 : ERR_C3_VARIANTE_DL;
+    if (varianteEst("QUILVANEL ")) {
+        if (emetteurNational()) return egal(c3, "20") ? 0 : ERR_C3_NATIONAL;
+        return vide ? 0 : ERR_C3_VARIANTE_DL;
+    }
+    if (varianteEst("QUILVANEPF")) return egal(c3, "10") || typeEst("ABAT") ? 0 : ERR_C3_VARIANTE_PF;
+    return 0;
+}
+
+/** The only records that the two partners may send to the national database. */
+bool admisDuPartenaire() {
+    const char* const c5 = corps(C5);
+    return (typeEst("INFO") && genreEst("DEM")) || (typeEst("JALO") && genreEst("CRE")) ||
+           (typeEst("ENTR") && genreEst("CRE") && egal(c5, "F")) ||
+           (typeEst("SORT") && genreEst("CRE") && (egal(c5, "S") || egal(c5, "M"))) || typeEst("ABAT");
+}
+
+int reglesPartenaire(int compte) {
+    err_aux = typeEst("ERRE") ? 0 : regleVariante();
+    if (err_aux > 0) compte = ajouterErreur(compte, err_aux);
+    const bool partenaire = egal(sauvEmetteur, "000PFO  ") || egal(sauvEmetteur, "NORMABEV");
+    if (partenaire && egal(sauvRecepteur, "031BDN  ") && !admisDuPartenaire())
+        compte = ajouterErreur(compte, ERR_PARTENAIRE);
+    return compte;
+}
+
+/** Body, partner and footer rules of a record whose type is known. */
+int reglesCorpsEtFin(const sAiguillage& ligne, const char* tampon, int mode, int compte) {
+    getvseChamps(ligne.tabVerif, *ligne.pLenTabVerif, tampon, valCorpsVSE, mode);
+    compte = verifChamps(mode, compte, ligne.tabVerif, *ligne.pLenTabVerif, valCorpsVSE, entete(E5), "C");
+    compte = reglesPartenaire(compte);
+    if (compte < MAX_ERREURS) compte = verifChamps(mode, compte, tFin, lFin, valFinVSE, nullptr, "F");
+    return compte;
+}
+
+/** A record that must be followed by its companion, and the error without it. */
+struct paireVSE {
+    const char* premier;
+    const char* compagnon;
+    int erreur;
+};
+constexpr paireVSE PAIRES[] = {{"EXP1", "EXP2", ERR_SANS_EXP2}, {"EGET", "RATA", ERR_SANS_RATA}};
+
+/** The pair that the record before has opened, or null. */
+const paireVSE* paireOuverte() {
+    if (!dependanceVSE() || !egal(sauvTypeVSE, "CRE") || sauvCodeVSEerr != 0) return nullptr;
+    for (const paireVSE& p : PAIRES)
+        if (egal(sauvCodeVSE, p.premier)) return &p;
+    return nullptr;
+}
+
+/** Closes the pair of the record before and opens one if this record does. */
+void apparier(int itAiguil, int compte, int formatDuFichier) {
+    existDependanceVSEerr = 0;
+    if (const paireVSE* const ouverte = paireOuverte();
+        ouverte != nullptr &&
+        !(typeEst(ouverte->compagnon) && genreEst("CRE") && egal(corps(C2), sauvLienVSE)))
+        rejeterSansCompagnon(formatDuFichier);
+
+    copier(sauvCodeVSE, entete(E6), sizeof sauvCodeVSE - 1);
+    copier(sauvTypeVSE, entete(E5), sizeof sauvTypeVSE - 1);
+    sauvCodeVSEerr = compte;
+    if (const paireVSE* const nouvelle = paireOuverte(); nouvelle != nullptr) {
+        copier(sauvLienVSE, corps(C2), sizeof sauvLienVSE - 1);
+        faireTamponVSEERR(nouvelle->erreur, itAiguil);
+    }
+}
+
+/** Mode -i puts a record's trace on one line. */
+void finirTrace(int mode) {
+    if (mode == VISU_INFORMATIQUE) std::fputc('\n', stdout);
+}
+
+int traiterFICH(const char* tampon, int mode) {
+    if (!typeEst("FICH")) {
+        annuler(IG011);
+        return FATAL;
+    }
+    errFich += verifChamps(mode, 0, tEntete, lEntete, valEnteteVSE, nullptr, "E");
+    getvseChamps(tFich, lFich, tampon, valCorpsVSE, mode);
+    const char* const numeroFichier = corps(C1);
+    if (std::strlen(numeroFichier) == TAILLE_NUMERO_FICHIER && champVide(numeroFichier)) {
+        annuler(I099);
+        return FATAL;
+    }
+    // The rules run twice; they name no check, so that nothing is found twice.
+    for (int passe = 0; passe < 2; ++passe)
+        if (errFich < MAX_ERREURS) errFich += verifChamps(mode, 0, tFich, lFich, valCorpsVSE, nullptr, "C");
+
+    std::memcpy(valFichEnteteVSE, valEnteteVSE, sizeof valFichEnteteVSE);
+    std::memcpy(valFichCorpsVSE, valCorpsVSE, sizeof valFichCorpsVSE);
+    std::memcpy(valFichFinVSE, valFinVSE, sizeof valFichFinVSE);
+    std::memcpy(codeFichErreur, codeErreur, MAX_ERREURS * sizeof codeErreur[0]);
+    nbErreur = errFich;
+    copier(sauvEmetteur, entete(E3), sizeof sauvEmetteur - 1);
+    copier(sauvRecepteur, entete(E4), sizeof sauvRecepteur - 1);
+    copier(sauvCodeVSE, entete(E6), sizeof sauvCodeVSE - 1);
+    copier(sauvTypeVSE, entete(E5), sizeof sauvTypeVSE - 1);
+    sauvCodeVSEerr = 0;
+    finirTrace(mode);
+    return nbErreur;
+}
+
+}  // namespace
+
+int traitement(const char* tampon, int mode, int nombreDeVSE, int formatDuFichier) {
+    affichageVSE(tampon, mode);
+    std::memset(codeErreur, 0, MAX_ERREURS * sizeof codeErreur[0]);
+    getvseChamps(tEntete, lEntete, tampon, valEnteteVSE, mode);
+    getvseChamps(tFin, lFin, tampon, valFinVSE, mode);
+    if (nombreDeVSE == 1) return traiterFICH(tampon, mode);
+
+    int itAiguil = ERR_AIGUILLAGE;
+    nbErreur = reglesAdmission(0);
+    if (nbErreur < MAX_ERREURS) {
+        nbErreur = verifChamps(mode, nbErreur, tEntete, lEntete, valEnteteVSE, nullptr, "E");
+        // A record that is full of errors by now is treated as of unknown type.
+        if (nbErreur < MAX_ERREURS) itAiguil = aiguiller(entete(E6));
+    }
+    if (tAiguillage[itAiguil].code != CODE_INCONNU)
+        nbErreur = reglesCorpsEtFin(tAiguillage[itAiguil], tampon, mode, nbErreur);
+
+    if (nbErreur == 0) {
+        faireVSEValide(tampon, formatDuFichier);
+    } else {
+        faireFinDeLigne(fp_erre, formatDuFichier);
+        faireVSEERRCourante(itAiguil, nbErreur);
+    }
+    apparier(itAiguil, nbErreur, formatDuFichier);
+    finirTrace(mode);
+    return nbErreur;
+}
+
+bool attendCompagnon() { return paireOuverte() != nullptr; }
+
+void rejeterSansCompagnon(int formatDuFichier) {
+    faireFinDeLigne(fp_erre, formatDuFichier);
+    std::fputs(sauvTamponVSE, fp_erre);
+    existDependanceVSEerr = 1;
+}
+
+int dependanceVSE() { return 1; }
+
+}  // namespace quilvane
