@@ -37,7 +37,8 @@ int presence_C8(const char*, char*, const void*, int) {
     if (longueur < 8) return 0;
     if (blancs8(tuerie)) return 1;
     if (tuerie[0] == ' ') return 0;
-    return tous(tuerie, 1, static_cast<int>(longueur), [](char c) { return estLettreOuChiffre(c) || c == ' '; });
+    return tous(tuerie, 1, static_cast<int>(longueur),
+                [](char c) { return estLettreOuChiffre(c) || c == ' '; });
 }
 
 int presence_C11(const char*, char*, const void*, int) {
@@ -106,8 +107,6 @@ int fichier_C11(const char*, char*, const void*, int) {
     return egal(numero, bufC11) || estNational(corps(C11)) || corse(corps(C11));
 }
 
-int verifSpace(const char*, char* champ, const void*, int) {
-    return egal(champ, "10") || egal(champ, "  ");
-}
+int verifSpace(const char*, char* champ, const void*, int) { return egal(champ, "10") || egal(champ, "  "); }
 
 }  // namespace quilvane

@@ -73,8 +73,7 @@ int pasApresDecale(const char* reference, const char* date, int ansDePlus) {
 int fCoherenCC(const char* dependance, char* champ, const void*, int) {
     constexpr const char* OUTRE_MER[] = {"971", "972", "973", "974", "976"};
     if (memeDebut(dependance, "POINTFOC", 8)) return 1;
-    if (memeDebut(dependance, "02A", 3) || memeDebut(dependance, "02B", 3))
-        return memeDebut(champ, "20", 2);
+    if (memeDebut(dependance, "02A", 3) || memeDebut(dependance, "02B", 3)) return memeDebut(champ, "20", 2);
     for (const char* dep : OUTRE_MER) {
         if (!memeDebut(dependance, dep, 3)) continue;
         return memeDebut(champ, dep, 3) || (memeDebut(champ, "98", 2) && egal(dep, "974"));
@@ -144,7 +143,8 @@ int fCoheren_OC_IND_M(const char* dependance, char* champ, const void* sverif, i
     const int nombreTriples = lenSverif / 3;
     int courant = 0;
     // An unknown body stops on the last triple, whose range is then used.
-    while (courant < nombreTriples - 1 && !memeDebut(triples[3 * courant].valeur, dependance, 6)) ++courant;
+    while (courant < nombreTriples - 1 && !memeDebut(triples[3 * courant].valeur, dependance, 6))
+        ++courant;
     if (nombreTriples > 0 &&
         entre(champ, triples[3 * courant + 1].valeur, triples[3 * courant + 2].valeur, 6))
         return 1;

@@ -18,9 +18,7 @@ enum eSuite { LIBRE, BLANCS_JUSQUA_12 };
  *  `nbChiffres` digits. */
 int numeroFrancais(const char* champ, const void* sverif, int lenSverif, int nbChiffres, eSuite suite) {
     if (!debutDansListe(champ, listeDe(sverif), lenSverif, 2)) return 0;
-    if (memeDebut(champ, "97", 2) &&
-        (!entre(champ, "971", "976", 3) || memeDebut(champ, "975", 3)))
-        return 0;
+    if (memeDebut(champ, "97", 2) && (!entre(champ, "971", "976", 3) || memeDebut(champ, "975", 3))) return 0;
     if (!chiffres(champ, 1, nbChiffres)) return 0;
     if (suite == LIBRE) return 1;
     const char* const reste = aPartirDe(champ, nbChiffres + 1);

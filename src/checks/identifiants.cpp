@@ -16,7 +16,8 @@ struct departement {
     char code[3];
     explicit departement(const char* numero) {
         int n = 0;
-        for (; n < 2 && numero[n] != '\0'; ++n) code[n] = numero[n];
+        for (; n < 2 && numero[n] != '\0'; ++n)
+            code[n] = numero[n];
         code[n] = '\0';
     }
     bool est(const char* autre) const { return egal(code, autre); }
@@ -41,7 +42,8 @@ bool codePorcins(const char* champ) {
     const departement dep(champ);
     if (dep.est("97")) {
         bool trouve = false;
-        for (const char* prefixe : OUTRE_MER) trouve = trouve || memeDebut(champ, prefixe, 3);
+        for (const char* prefixe : OUTRE_MER)
+            trouve = trouve || memeDebut(champ, prefixe, 3);
         if (!trouve) return false;
     } else {
         if (!dep.est("98") && !dep.corse() && !dansListe(dep.code, TD, LenTD)) return false;

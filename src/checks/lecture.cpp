@@ -6,7 +6,8 @@ long long nombre(const char* texte, int col, int largeur) {
     constexpr long long PLAFOND = 1'000'000'000'000'000'000;  // 19 digits; a sum of two fits
     const char* p = aPartirDe(texte, col);
     const char* const bout = p + strnlen(p, static_cast<std::size_t>(largeur));
-    while (p < bout && (*p == ' ' || (*p >= '\t' && *p <= '\r'))) ++p;
+    while (p < bout && (*p == ' ' || (*p >= '\t' && *p <= '\r')))
+        ++p;
     bool negatif = false;
     if (p < bout && (*p == '+' || *p == '-')) negatif = *p++ == '-';
     long long valeur = 0;

@@ -69,7 +69,8 @@ inline bool videOuBlanc(const char* texte) { return texte[std::strspn(texte, " "
 /** Index of the last character that is no blank, -1 when there is none. */
 inline int dernierNonBlanc(const char* texte) {
     int i = static_cast<int>(std::strlen(texte)) - 1;
-    while (i >= 0 && texte[i] == ' ') --i;
+    while (i >= 0 && texte[i] == ' ')
+        --i;
     return i;
 }
 

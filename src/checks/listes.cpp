@@ -60,8 +60,7 @@ int fVerifAucunBlanc_SDN(const char* dependance, char* champ, const void* sverif
 int fVerifNumEtranger(const char* dependance, char* champ, const void*, int) {
     const int dernier = dernierNonBlanc(champ);
     if (dernier < 0) return 0;
-    if (!tous(champ, 1, dernier + 1, [](char c) { return estChiffre(c) || estMajuscule(c); }))
-        return 0;
+    if (!tous(champ, 1, dernier + 1, [](char c) { return estChiffre(c) || estMajuscule(c); })) return 0;
     return !memeDebut(dependance, champ, 2);
 }
 

@@ -16,8 +16,7 @@ constexpr std::size_t LONGUEUR_MAX = 98;
 bool tropLong(const char* texte) { return std::strlen(texte) > LONGUEUR_MAX; }
 bool blancs30(const char* texte) { return egal(texte, trenteBlancs[0].valeur); }
 
-int fVTABP5a8(const char* dependance, char* champ, const void* sverif, int lenSverif,
-              const char* reference) {
+int fVTABP5a8(const char* dependance, char* champ, const void* sverif, int lenSverif, const char* reference) {
     if (tropLong(champ)) return 0;
     if (videOuBlanc(champ) && !fVTABP(dependance, reference)) return 1;
     return dansListe(champ, listeDe(sverif), lenSverif);
@@ -35,9 +34,7 @@ bool numeroBlancAvant(const char* dependance, const char* champ, const char* ref
 
 }  // namespace
 
-int fVTABP(const char* date, const char* reference) {
-    return fCoherenDCSupInf(reference, date, SUP);
-}
+int fVTABP(const char* date, const char* reference) { return fCoherenDCSupInf(reference, date, SUP); }
 
 int fVTABP5(const char* dependance, char* champ, const void* sverif, int lenSverif) {
     return fVTABP5a8(dependance, champ, sverif, lenSverif, P5[0].valeur);

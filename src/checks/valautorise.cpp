@@ -13,7 +13,8 @@ namespace {
 /** Length of a text. */
 constexpr int longueur(const char* texte) {
     int n = 0;
-    while (texte[n] != '\0') ++n;
+    while (texte[n] != '\0')
+        ++n;
     return n;
 }
 
@@ -33,8 +34,7 @@ template <int N>
 constexpr int largeurPaires(const tValAutorise (&table)[N][2]) {
     const int premiere = longueur(table[0][0].valeur);
     for (int i = 0; i < N - 1; ++i)
-        if (longueur(table[i][0].valeur) != premiere || longueur(table[i][1].valeur) != premiere)
-            return -1;
+        if (longueur(table[i][0].valeur) != premiere || longueur(table[i][1].valeur) != premiere) return -1;
     return premiere;
 }
 

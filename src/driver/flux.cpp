@@ -42,7 +42,8 @@ int prendreLigneEntiere(char* tampon) {
     if (flux.taille - flux.position < LARGEUR_VSE) return 0;
     const unsigned char* const debut = flux.bloc + flux.position;
     unsigned mauvais = 0;
-    for (int i = 0; i < LARGEUR_VSE; ++i) mauvais |= static_cast<unsigned>(!imprimable(debut[i]));
+    for (int i = 0; i < LARGEUR_VSE; ++i)
+        mauvais |= static_cast<unsigned>(!imprimable(debut[i]));
     if (mauvais != 0) return 0;
     std::memcpy(tampon, debut, LARGEUR_VSE);
     flux.position += LARGEUR_VSE;
@@ -82,8 +83,7 @@ cverseFgetsRet cverseFgets(char* tampon) {
                 if (regarder() != '\n') return finDeLigne(longueur, CVERSE_MAC);
                 ++flux.position;
                 return finDeLigne(longueur, CVERSE_DOS);
-            case '\n':
-                return finDeLigne(longueur, CVERSE_UNIX);
+            case '\n': return finDeLigne(longueur, CVERSE_UNIX);
             default:
                 if (!imprimable(static_cast<unsigned char>(octet))) codCaract = 1;
                 if (longueur == LARGEUR_VSE)

@@ -30,7 +30,8 @@ const char* dernierSeparateur(const char* chemin) {
 char* dossierDe(const char* chemin, std::size_t separateursGardes) {
     const char* p = dernierSeparateur(chemin);
     if (p == nullptr) return copie(".", 1);
-    while (p > chemin && estSeparateur(p[-1])) --p;
+    while (p > chemin && estSeparateur(p[-1]))
+        --p;
     return copie(chemin, static_cast<std::size_t>(p - chemin) + separateursGardes);
 }
 
@@ -54,8 +55,8 @@ char* nomDeTravail(const char* dossier, const char* fichier, const char* suffixe
     std::free(libre);
     if (choisi == nullptr) return nullptr;
     const char* const variante = std::strcmp(VARIANTE, "QUILVANEPF") == 0 ? "_pf" : "";
-    const std::size_t taille = std::strlen(choisi) + std::strlen(fichier) + std::strlen(suffixe) +
-                               std::strlen(variante) + 1;
+    const std::size_t taille =
+        std::strlen(choisi) + std::strlen(fichier) + std::strlen(suffixe) + std::strlen(variante) + 1;
     auto* const nom = static_cast<char*>(std::malloc(taille));
     if (nom != nullptr) std::snprintf(nom, taille, "%s%s%s%s", choisi, fichier, suffixe, variante);
     std::free(choisi);

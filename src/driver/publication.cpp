@@ -13,14 +13,19 @@ namespace quilvane {
 
 namespace {
 
-constexpr texteLatin1 MSG_IG001("IG001: Données incorrectes ou absentes : impossible d'accéder au fichier de log");
-constexpr texteLatin1 MSG_IG002("IG002: Données incorrectes ou absentes : impossible d'accéder au fichier d'erreur");
+constexpr texteLatin1 MSG_IG001(
+    "IG001: Données incorrectes ou absentes : impossible d'accéder au fichier de log");
+constexpr texteLatin1 MSG_IG002(
+    "IG002: Données incorrectes ou absentes : impossible d'accéder au fichier d'erreur");
 constexpr texteLatin1 MSG_IG003(
     "IG003: Données incorrectes ou absentes : impossible d'accéder au fichier temporaire à traiter");
-constexpr texteLatin1 MSG_IG004("IG004: Données incorrectes ou absentes : impossible d'accéder au fichier à émettre");
+constexpr texteLatin1 MSG_IG004(
+    "IG004: Données incorrectes ou absentes : impossible d'accéder au fichier à émettre");
 constexpr texteLatin1 MSG_IG008("IG008: Differents formats de VSE (DOS, UNIX, MAC)");
-constexpr texteLatin1 MSG_IG009("IG009: Données incorrectes ou absentes : impossible de renommer le fichier reçu");
-constexpr texteLatin1 MSG_IG010("IG010: Données incorrectes ou absentes : impossible de renommer le fichier à envoyer");
+constexpr texteLatin1 MSG_IG009(
+    "IG009: Données incorrectes ou absentes : impossible de renommer le fichier reçu");
+constexpr texteLatin1 MSG_IG010(
+    "IG010: Données incorrectes ou absentes : impossible de renommer le fichier à envoyer");
 constexpr texteLatin1 MSG_IG011("IG011: Données incorrectes ou absentes : VSE FICH n'existe pas");
 constexpr texteLatin1 MSG_IG014("IG014: Pas de VSE de base");
 constexpr texteLatin1 MSG_IG015("IG015: Présence de VSE de longueur nulle");
@@ -43,11 +48,13 @@ bool rendreEntree() {
     std::remove(name_recu);
     if (std::rename(name_tmp_recu, name_recu) != 0) {
         std::perror("rename");
-        for (const char* nom : {name_tmp_recu, name_tmp_emis, name_emis, name_erre}) std::remove(nom);
+        for (const char* nom : {name_tmp_recu, name_tmp_emis, name_emis, name_erre})
+            std::remove(nom);
         consigner(IG009, fp_log);
         return false;
     }
-    for (const char* nom : {name_tmp_emis, name_emis, name_erre}) retirerSaufEntree(nom);
+    for (const char* nom : {name_tmp_emis, name_emis, name_erre})
+        retirerSaufEntree(nom);
     return true;
 }
 

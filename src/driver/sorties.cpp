@@ -13,10 +13,10 @@ namespace {
 
 constexpr const char* BLANCS_2 = "  ";
 constexpr const char* BLANCS_12 = "            ";
-constexpr int COL_RESULTAT = 77;     // result code of an accepted record, two columns
-constexpr int BLANCS_FICH = 105;     // columns 126 to 230
-constexpr int ZONE_CODES = 119;      // columns 112 to 230 of an error record
-constexpr int LARGEUR_CODE = 5;      // "I%03d1"
+constexpr int COL_RESULTAT = 77;  // result code of an accepted record, two columns
+constexpr int BLANCS_FICH = 105;  // columns 126 to 230
+constexpr int ZONE_CODES = 119;   // columns 112 to 230 of an error record
+constexpr int LARGEUR_CODE = 5;   // "I%03d1"
 
 /** A record being put together. What does not fit is dropped: no field of a
  *  record is that wide. */
@@ -24,7 +24,8 @@ struct ligneVSE {
     ligneVSE& texte(const char* t) { return octets(t, std::strlen(t)); }
     ligneVSE& champ(const valeurVSE& v) { return texte(v.valeur); }
     ligneVSE& blancs(int n) {
-        for (; n > 0; --n) octets(" ", 1);
+        for (; n > 0; --n)
+            octets(" ", 1);
         return *this;
     }
     ligneVSE& code(int numero) {
@@ -60,8 +61,8 @@ bool estRetourECQ(const valeurVSE* enteteVSE) {
 }
 
 /** The ERRE record of a record in error. */
-ligneVSE vseERR(const char* champC7, const char* champC8, int nbCodes, const valeurVSE* e,
-                const valeurVSE* c, const int* codes) {
+ligneVSE vseERR(const char* champC7, const char* champC8, int nbCodes, const valeurVSE* e, const valeurVSE* c,
+                const int* codes) {
     ligneVSE l;
     l.champ(e[E1]).champ(e[E2]).champ(e[E4]).champ(e[E3]).texte("ERR").texte("ERRE").champ(e[E7]);
     l.texte("INTERFAC").champ(e[E9]).champ(valFichEnteteVSE[E3]).champ(e[E11]).champ(e[E12]).champ(e[E13]);
@@ -70,7 +71,8 @@ ligneVSE vseERR(const char* champC7, const char* champC8, int nbCodes, const val
     // the columns below in place.
     if (estRetourECQ(e)) l.blancs(7);
     l.blancs(2).blancs(12).texte(champC7).texte(champC8);
-    for (int i = 0; i < nbCodes; ++i) l.code(codes[i]);
+    for (int i = 0; i < nbCodes; ++i)
+        l.code(codes[i]);
     l.blancs(ZONE_CODES - LARGEUR_CODE * nbCodes).texte(VSEDate);
     return l;
 }
@@ -106,15 +108,17 @@ void faireVSEDate(char* tampon) {
     const std::tm t = heureLocale();
     char date[128];
     std::snprintf(date, sizeof date, "%02d%02d%04d%02d%02d%02d%s%s%s", t.tm_mday, t.tm_mon + 1,
-                  t.tm_year + 1900, t.tm_hour, t.tm_min, t.tm_sec, versionVSE[0].valeur,
-                  HuitBlancs[0].valeur, ET1[0].valeur);
+                  t.tm_year + 1900, t.tm_hour, t.tm_min, t.tm_sec, versionVSE[0].valeur, HuitBlancs[0].valeur,
+                  ET1[0].valeur);
     const std::size_t n = strnlen(date, sizeof VSEDate - 1);
     std::memcpy(tampon, date, n);
     tampon[n] = '\0';
 }
 
 void faireFinDeLigne(std::FILE* fp, int formatDeFichier) {
-    const char* const fin = formatDeFichier == CVERSE_DOS ? "\r\n" : formatDeFichier == CVERSE_MAC ? "\r" : "\n";
+    const char* const fin = formatDeFichier == CVERSE_DOS   ? "\r\n"
+                            : formatDeFichier == CVERSE_MAC ? "\r"
+                                                            : "\n";
     std::fwrite(fin, 1, std::strlen(fin), fp);
 }
 
@@ -134,8 +138,8 @@ void faireVSEValide(const char* tampon, int formatDeFichier) {
     std::fwrite(emise, 1, n, fp_emis);
 }
 
-void faireVSEERR(const char* champC7, const char* champC8, int nbErreurPassee,
-                 const valeurVSE* lvalEnteteVSE, const valeurVSE* lvalCorpsVSE, const int* lcodeErreur) {
+void faireVSEERR(const char* champC7, const char* champC8, int nbErreurPassee, const valeurVSE* lvalEnteteVSE,
+                 const valeurVSE* lvalCorpsVSE, const int* lcodeErreur) {
     if (nbErreurPassee > MAX_ERREURS) nbErreurPassee = nbErreur = MAX_ERREURS;
     if (nbErreurPassee < 0) nbErreurPassee = 0;
     vseERR(champC7, champC8, nbErreurPassee, lvalEnteteVSE, lvalCorpsVSE, lcodeErreur).ecrire(fp_erre);
@@ -167,7 +171,8 @@ void faireVSEFICHOk(int nombreDeVSE) {
     l.champ(e[E8]).champ(e[E9]).champ(e[E10]).champ(e[E11]).champ(e[E12]).champ(e[E13]);
     l.champ(c[C1]).champ(c[C2]).champ(c[C3]).champ(c[C4]).champ(c[C5]).compteur(nombreDeVSE);
     l.champ(c[C7]).champ(c[C8]).blancs(BLANCS_FICH);
-    for (const valeurVSE& f : valFichFinVSE) l.champ(f);
+    for (const valeurVSE& f : valFichFinVSE)
+        l.champ(f);
     std::fseek(fp_emis, 0, SEEK_SET);
     l.ecrire(fp_emis);
 }

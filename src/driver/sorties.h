@@ -36,8 +36,8 @@ void faireVSEValide(const char* tampon, int formatDeFichier);
  * twelve), the codes "I%03d1" and the stamp of the run. More than ten codes
  * are cut to ten, in `nbErreur` too.
  */
-void faireVSEERR(const char* champC7, const char* champC8, int nbErreurPassee,
-                 const valeurVSE* lvalEnteteVSE, const valeurVSE* lvalCorpsVSE, const int* lcodeErreur);
+void faireVSEERR(const char* champC7, const char* champC8, int nbErreurPassee, const valeurVSE* lvalEnteteVSE,
+                 const valeurVSE* lvalCorpsVSE, const int* lcodeErreur);
 
 /** Writes the ERRE record of the current record, routed to row `itAiguil`,
  *  with all its codes. A record of unknown type has blank C1 and C2. */

@@ -16,12 +16,12 @@ namespace quilvane {
 
 namespace {
 
-constexpr int ERR_EMETTEUR_CORPS = 135;   // emitter may not send for this body
-constexpr int ERR_EMETTEUR = 110;         // emitter may not send this type
-constexpr int ERR_RECEPTEUR = 85;         // receiver does not take this type
-constexpr int ERR_CORPS_ABAT = 129;       // slaughter notice of another body
-constexpr int ERR_FICH_EN_TROP = 109;     // second FICH record
-constexpr int ERR_PARTENAIRE = 182;       // partner may not send this record
+constexpr int ERR_EMETTEUR_CORPS = 135;  // emitter may not send for this body
+constexpr int ERR_EMETTEUR = 110;        // emitter may not send this type
+constexpr int ERR_RECEPTEUR = 85;        // receiver does not take this type
+constexpr int ERR_CORPS_ABAT = 129;      // slaughter notice of another body
+constexpr int ERR_FICH_EN_TROP = 109;    // second FICH record
+constexpr int ERR_PARTENAIRE = 182;      // partner may not send this record
 constexpr int ERR_C3_NATIONAL = 64;
 constexpr int ERR_C3_LOCAL = 51;
 constexpr int ERR_C3_VARIANTE_DL = 806;
@@ -58,7 +58,8 @@ int reglesAdmission(int compte) {
     if (typeEst("ABAT")) {
         if (egal(sauvEmetteur, "NORM01  ")) {
             if (!egal(entete(E8), "NORMABEV")) compte = ajouterErreur(compte, ERR_CORPS_ABAT);
-        } else if (std::strncmp(sauvEmetteur, "OFFICE", 6) != 0 && std::strncmp(sauvEmetteur, "ONICAB", 6) != 0) {
+        } else if (std::strncmp(sauvEmetteur, "OFFICE", 6) != 0 &&
+                   std::strncmp(sauvEmetteur, "ONICAB", 6) != 0) {
             compte = ajouterErreur(compte, ERR_EMETTEUR);
         }
     }

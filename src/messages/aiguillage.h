@@ -11,12 +11,12 @@ namespace quilvane {
 
 /** One routing row. */
 struct sAiguillage {
-    const char* nomVSE;        // message type, header E6
-    const sCorps* tabVerif;    // its rule table; null in the last row
-    const int* pLenTabVerif;   // the table's row count; null in the last row
-    codeVSE code;              // `CODE_INCONNU` in the last row
-    numCorpsVSE champErrC7;    // country of the holding concerned, or `CINC`
-    numCorpsVSE champErrC8;    // its twelve-character number, or `CINC`
+    const char* nomVSE;       // message type, header E6
+    const sCorps* tabVerif;   // its rule table; null in the last row
+    const int* pLenTabVerif;  // the table's row count; null in the last row
+    codeVSE code;             // `CODE_INCONNU` in the last row
+    numCorpsVSE champErrC7;   // country of the holding concerned, or `CINC`
+    numCorpsVSE champErrC8;   // its twelve-character number, or `CINC`
 };
 
 inline constexpr int LEN_AIGUILLAGE = 28;

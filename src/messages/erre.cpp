@@ -60,7 +60,9 @@ int vErre_C9(const char*, char* champ, const void*, int) {
 
 int vErre_C29(const char*, char* champ, const void*, int) { return champVide(champ) || egal(champ, "FR"); }
 
-int vErre_C31(const char*, char* champ, const void*, int) { return egal(champ, "  ") || dansListe(champ, TP, LenTP); }
+int vErre_C31(const char*, char* champ, const void*, int) {
+    return egal(champ, "  ") || dansListe(champ, TP, LenTP);
+}
 
 int vErre_C32_1(const char*, char* champ, const void*, int) {
     if (champVide(champ)) return 1;

@@ -9,9 +9,9 @@ namespace quilvane::mouvement {
 
 /** Cause letters (body C5) by what they change; each text is a set. */
 struct causes {
-    const char* exigentPays;      // C8 must be given
-    const char* dispensentNumero; // C8 may stand without C9
-    const char* dispensentTexte;  // neither C9 nor C10 is needed
+    const char* exigentPays;       // C8 must be given
+    const char* dispensentNumero;  // C8 may stand without C9
+    const char* dispensentTexte;   // neither C9 nor C10 is needed
 };
 
 /** Whether a missing field is tolerated for movements before `P8`. */

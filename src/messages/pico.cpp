@@ -7,7 +7,9 @@
 
 namespace quilvane {
 
-int pico_fC6_1(const char*, char* champ, const void*, int) { return chiffres(champ, 1, 6) && nombre(champ) != 0; }
+int pico_fC6_1(const char*, char* champ, const void*, int) {
+    return chiffres(champ, 1, 6) && nombre(champ) != 0;
+}
 
 int pico_fC6_2(const char*, char* champ, const void*, int) {
     const long long compte = nombre(champ);

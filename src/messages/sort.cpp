@@ -36,13 +36,9 @@ int sort_fC9_1_mod(const char*, char* champ, const void*, int) {
     return mouvement::numeroPresent(LETTRES, champ, mouvement::TOLERE_AVANT_P8);
 }
 
-int sort_fC9_2_cre(const char*, char* champ, const void*, int) {
-    return mouvement::numeroConforme(champ);
-}
+int sort_fC9_2_cre(const char*, char* champ, const void*, int) { return mouvement::numeroConforme(champ); }
 
-int sort_fC9_2_mod(const char*, char* champ, const void*, int) {
-    return mouvement::numeroConforme(champ);
-}
+int sort_fC9_2_mod(const char*, char* champ, const void*, int) { return mouvement::numeroConforme(champ); }
 
 int sort_fC10_cre(const char*, char* champ, const void*, int) {
     return mouvement::texte(LETTRES, champ, mouvement::STRICT);

@@ -31,9 +31,9 @@ colonne colonneDuGenre(const char* genre) {
         colonne code;
     };
     constexpr ligne GENRES[] = {
-        {"CRE", &sCorps::typeCRE}, {"DEM", &sCorps::typeDEM}, {"INV", &sCorps::typeINV},
-        {"EDI", &sCorps::typeEDI}, {"MOD", &sCorps::typeMOD},
-        {"ECQ", &sCorps::typeCRE},  // an error return is read as a creation
+        {"CRE", &sCorps::typeCRE}, {"DEM", &sCorps::typeDEM},
+        {"INV", &sCorps::typeINV}, {"EDI", &sCorps::typeEDI},
+        {"MOD", &sCorps::typeMOD}, {"ECQ", &sCorps::typeCRE},  // an error return is read as a creation
     };
     for (const ligne& l : GENRES)
         if (std::strcmp(genre, l.genre) == 0) return l.code;
@@ -80,8 +80,8 @@ void getvseChamps(const sCorps* tCorps, int lCorps, const char* tampon, valeurVS
     if (visu == VISU_DECRIPTEE) std::fputc('\n', stdout);
 }
 
-int verifChamps(int visu, int nbErreurPassee, const sCorps* pChamps, int lpChamps,
-                valeurVSE* valChampsVSE, const char* valE5, const char* premLettre) {
+int verifChamps(int visu, int nbErreurPassee, const sCorps* pChamps, int lpChamps, valeurVSE* valChampsVSE,
+                const char* valE5, const char* premLettre) {
     int compte = erreursDeCadrage(visu, nbErreurPassee);
     const colonne presence = valE5 != nullptr ? colonneDuGenre(valE5) : nullptr;
     int emplacement = -1;
@@ -92,9 +92,7 @@ int verifChamps(int visu, int nbErreurPassee, const sCorps* pChamps, int lpChamp
         if (compte >= MAX_ERREURS || ligne->pfVerif == nullptr) continue;
 
         char* const valeur = valChampsVSE[emplacement].valeur;
-        const int code = valE5 == nullptr      ? A_VERIFIER
-                         : presence == nullptr ? INTERDIT
-                                               : ligne->*presence;
+        const int code = valE5 == nullptr ? A_VERIFIER : presence == nullptr ? INTERDIT : ligne->*presence;
         if (code == IGNORE) {
             if (visu == VISU_DECRIPTEE) std::printf("verif ignoree! '%s'\n", valeur);
             continue;

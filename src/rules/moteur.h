@@ -26,8 +26,8 @@ void getvseChamps(const sCorps* tCorps, int lCorps, const char* tampon, valeurVS
  * already there, ten at most; the framing faults 106, 107 and 108 come first.
  * `premLettre` names the part in traces ("E", "C", "F"). Returns the new count.
  */
-int verifChamps(int visu, int nbErreurPassee, const sCorps* pChamps, int lpChamps,
-                valeurVSE* valChampsVSE, const char* valE5, const char* premLettre);
+int verifChamps(int visu, int nbErreurPassee, const sCorps* pChamps, int lpChamps, valeurVSE* valChampsVSE,
+                const char* valE5, const char* premLettre);
 
 }  // namespace quilvane
 

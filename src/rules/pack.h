@@ -174,11 +174,11 @@ struct sCorps {
     int typeINV;
     int typeEDI;
     int typeMOD;
-    fVerif* pfVerif;        // the check, or null: the field is only cut out
-    const int* plenSverif;  // count of the list
-    const void* sverif;     // the list, or null
-    const char* dependance; // slot of another field, or ""
-    int noErr;              // error number when the check fails
+    fVerif* pfVerif;         // the check, or null: the field is only cut out
+    const int* plenSverif;   // count of the list
+    const void* sverif;      // the list, or null
+    const char* dependance;  // slot of another field, or ""
+    int noErr;               // error number when the check fails
 };
 
 // ------------------------------------------------------ value-list names

@@ -56,7 +56,9 @@ std::string dossier::lire(const std::string& relatif) const {
     return {std::istreambuf_iterator<char>(f), std::istreambuf_iterator<char>()};
 }
 
-bool dossier::existe(const std::string& relatif) const { return fs::exists(fs::symlink_status(nom(relatif))); }
+bool dossier::existe(const std::string& relatif) const {
+    return fs::exists(fs::symlink_status(nom(relatif)));
+}
 
 std::map<std::string, std::string> dossier::contenu() const {
     std::map<std::string, std::string> r;
@@ -99,7 +101,8 @@ resultat lancerProgramme(const std::string& programme, const dossier& d,
                          const std::vector<std::string>& arguments, const options& o) {
     std::vector<std::string> milieu = {"TZ=UTC", "LANG=C", "PATH=/usr/bin:/bin"};
     std::string precharge;
-    for (const std::string& p : o.precharge) precharge += p + ":";
+    for (const std::string& p : o.precharge)
+        precharge += p + ":";
     if (!o.horloge.empty()) {
         precharge += QUILVANE_LIBFAKETIME;
         milieu.push_back("FAKETIME=" + o.horloge);
@@ -114,10 +117,12 @@ resultat lancerProgramme(const std::string& programme, const dossier& d,
     }
 
     std::vector<char*> argv = {const_cast<char*>(o.argv0.c_str())};
-    for (const std::string& a : arguments) argv.push_back(const_cast<char*>(a.c_str()));
+    for (const std::string& a : arguments)
+        argv.push_back(const_cast<char*>(a.c_str()));
     argv.push_back(nullptr);
     std::vector<char*> envp;
-    for (const std::string& m : milieu) envp.push_back(const_cast<char*>(m.c_str()));
+    for (const std::string& m : milieu)
+        envp.push_back(const_cast<char*>(m.c_str()));
     envp.push_back(nullptr);
 
     int sortie[2];

@@ -20,7 +20,8 @@ namespace {
 std::vector<std::string> mots(const std::string& texte) {
     std::istringstream flux(texte);
     std::vector<std::string> r;
-    for (std::string m; flux >> m;) r.push_back(m);
+    for (std::string m; flux >> m;)
+        r.push_back(m);
     return r;
 }
 
@@ -56,7 +57,8 @@ void prouverLignes(const preuveType& p) {
     const int lignes = *tAiguillage[route].pLenTabVerif;
 
     for (const std::string& genre : mots(p.genres))
-        EXPECT_EQ(codesDe(p.modele(genre), p.emetteur), std::vector<int>{}) << p.type << " " << genre << " model";
+        EXPECT_EQ(codesDe(p.modele(genre), p.emetteur), std::vector<int>{})
+            << p.type << " " << genre << " model";
 
     std::set<std::pair<int, std::string>> couvertes;
     for (const casLigne& c : p.cas) {
@@ -64,11 +66,14 @@ void prouverLignes(const preuveType& p) {
         const sCorps& ligne = table[c.ligne];
         EXPECT_NE(std::find(c.codes.begin(), c.codes.end(), ligne.noErr), c.codes.end())
             << p.type << " row " << c.ligne << " has error " << ligne.noErr;
-        EXPECT_TRUE(c.codes.size() == 1 || !c.raison.empty()) << p.type << " row " << c.ligne << " needs a reason";
+        EXPECT_TRUE(c.codes.size() == 1 || !c.raison.empty())
+            << p.type << " row " << c.ligne << " needs a reason";
         for (const std::string& genre : mots(c.genres)) {
-            EXPECT_EQ(presence(ligne, genre), 0) << p.type << " row " << c.ligne << " does not run in " << genre;
+            EXPECT_EQ(presence(ligne, genre), 0)
+                << p.type << " row " << c.ligne << " does not run in " << genre;
             std::string record = p.modele(genre);
-            for (const pose& q : c.poses) poser(record, q.col, q.texte);
+            for (const pose& q : c.poses)
+                poser(record, q.col, q.texte);
             EXPECT_EQ(codesDe(record, p.emetteur), c.codes) << p.type << " " << genre << " row " << c.ligne;
             couvertes.insert({c.ligne, genre});
         }

@@ -17,11 +17,11 @@ namespace essai {
 /** A record wrong in one field: what to change in the correct record of a kind
  *  and the exact error numbers, in order, that must come of it. */
 struct casLigne {
-    int ligne;                  // row of the table, from 0
-    std::string genres;         // transaction kinds, blank-separated: "CRE INV MOD"
-    std::vector<pose> poses;    // columns to change
-    std::vector<int> codes;     // all errors of the record
-    std::string raison = "";    // why rows fail together; required with several codes
+    int ligne;                // row of the table, from 0
+    std::string genres;       // transaction kinds, blank-separated: "CRE INV MOD"
+    std::vector<pose> poses;  // columns to change
+    std::vector<int> codes;   // all errors of the record
+    std::string raison = "";  // why rows fail together; required with several codes
 };
 
 /** A row that no record can make fail in the kinds named. */
@@ -32,12 +32,12 @@ struct ligneSansEchec {
 };
 
 struct preuveType {
-    std::string type;                                          // message type, header E6
-    std::string genres;                                        // kinds that have a correct record
-    std::function<std::string(const std::string&)> modele;     // correct record of a kind
+    std::string type;                                       // message type, header E6
+    std::string genres;                                     // kinds that have a correct record
+    std::function<std::string(const std::string&)> modele;  // correct record of a kind
     std::vector<casLigne> cas;
     std::vector<ligneSansEchec> sansEchec = {};
-    std::string emetteur = "089ARS  ";                         // emitter of the file
+    std::string emetteur = "089ARS  ";  // emitter of the file
 };
 
 /** Error numbers that record processing gives a record, behind a correct FICH
