@@ -3,7 +3,7 @@
 namespace quilvane {
 
 long long nombre(const char* texte, int col, int largeur) {
-    constexpr long long PLAFOND = 1'000'000'000'000'000'000;  // 19 digits; a sum of two fits
+    constexpr long long PLAFOND = 100'000'000'000'000'000;  // 18 digits; one more and a sum of two still fit
     const char* p = aPartirDe(texte, col);
     const char* const bout = p + strnlen(p, static_cast<std::size_t>(largeur));
     while (p < bout && (*p == ' ' || (*p >= '\t' && *p <= '\r')))
@@ -13,8 +13,10 @@ long long nombre(const char* texte, int col, int largeur) {
     long long valeur = 0;
     for (; p < bout && estChiffre(*p); ++p) {
         valeur = valeur * 10 + (*p - '0');
-        if (valeur > PLAFOND) valeur = PLAFOND;
-        if (valeur == PLAFOND) break;
+        if (valeur >= PLAFOND) {
+            valeur = PLAFOND;
+            break;
+        }
     }
     return negatif ? -valeur : valeur;
 }
