@@ -1,1 +1,482 @@
+// Proofs that hold for every rule table: the header, the footer, the FICH body
+// and the body of each message type.
 #include <gtest/gtest.h>
+
+#include <cstdint>
+#include <cstring>
+#include <map>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "checks/utils.h"
+#include "messages/aiguillage.h"
+#include "messages/messages.h"
+#include "rules/entete.h"
+
+using namespace quilvane;
+
+namespace {
+
+enum ePartie { ENTETE, CORPS, FIN };
+
+struct tableNommee {
+    std::string nom;
+    const sCorps* lignes;
+    int longueur;  // the table's own count
+    int attendue;  // rows it must have
+    ePartie partie = CORPS;
+};
+
+// clang-format off
+const std::vector<tableNommee> TABLES = {
+    {"tEntete", tEntete, lEntete, 14, ENTETE},
+    {"tFin",    tFin,    lFin,     6, FIN},
+    {"tFich",   tFich,   lFich,    9},
+    {"tAbat",   tAbat,   lAbat,   25},
+    {"tActi",   tActi,   lActi,   12},
+    {"tAsso",   tAsso,   lAsso,   23},
+    {"tDete",   tDete,   lDete,   17},
+    {"tDeti",   tDeti,   lDeti,   10},
+    {"tEcbo",   tEcbo,   lEcbo,   20},
+    {"tEcha",   tEcha,   lEcha,   36},
+    {"tEget",   tEget,   lEget,   11},
+    {"tEntr",   tEntr,   lEntr,   30},
+    {"tErre",   tErre,   lErre,   28},
+    {"tErti",   tErti,   lErti,   18},
+    {"tExp1",   tExp1,   lExp1,   15},
+    {"tExp2",   tExp2,   lExp2,   23},
+    {"tGroc",   tGroc,   lGroc,   26},
+    {"tImoc",   tImoc,   lImoc,   13},
+    {"tImpo",   tImpo,   lImpo,   36},
+    {"tInfo",   tInfo,   lInfo,    7},
+    {"tJalo",   tJalo,   lJalo,   17},
+    {"tNais",   tNais,   lNais,   50},
+    {"tNuma",   tNuma,   lNuma,   26},
+    {"tNvmn",   tNvmn,   lNvmn,   31},
+    {"tPass",   tPass,   lPass,   20},
+    {"tPico",   tPico,   lPico,   23},
+    {"tRaco",   tRaco,   lRaco,   13},
+    {"tRata",   tRata,   lRata,   17},
+    {"tRebo",   tRebo,   lRebo,   22},
+    {"tSort",   tSort,   lSort,   29},
+};
+
+/** Every list that a row names, with its count. */
+#define LISTE(nom) {nom, &Len##nom}
+const std::map<const void*, const int*> COMPTES = {
+    {tE5, &LentE5}, {tE6, &LentE6},
+    LISTE(TEC),     LISTE(TDC),     LISTE(BDN031),  LISTE(BDN8),   LISTE(TOUQ),      LISTE(NOUU),   LISTE(versionVSE),
+    LISTE(ET1),     LISTE(quatreBlancs), LISTE(cinqBlancs), LISTE(HuitBlancs), LISTE(DouzeBlancs),
+    LISTE(quatorzeBlancs), LISTE(vingtBlancs), LISTE(trenteBlancs), LISTE(soixanteBlancs), LISTE(HuitBlancsFal),
+    LISTE(FR),      LISTE(UN),      LISTE(SEX),     LISTE(BOOL),   LISTE(BOOLFal),   LISTE(ZERO),   LISTE(NB),
+    LISTE(PROD),    LISTE(PROD_E),  LISTE(PROD_EV), LISTE(FIL_V),  LISTE(ELV_V),     LISTE(TEMOIN),
+    LISTE(TYP_IDENT), LISTE(TYP_NUMERO), LISTE(DEROUL_MARC), LISTE(UTIL_BOUC), LISTE(C2_MODEL), LISTE(C3_MODEL),
+    LISTE(C2_MODEL_BV), LISTE(C3_MODEL_BV), LISTE(FAB_REP), LISTE(TYP_COM), LISTE(CAT_RECEN), LISTE(TTE), LISTE(TCEP),
+    LISTE(TCME),    LISTE(TCMS),    LISTE(TD),      LISTE(TDD),    LISTE(TECH),      LISTE(TP),     LISTE(TR),
+    LISTE(TRG),     LISTE(TRSCRE),  LISTE(TRSMOD),  LISTE(NEV),    LISTE(IND_M),
+};
+#undef LISTE
+
+/** How a check uses its row's list. */
+enum eUsage {
+    ENTIER,      // compares the whole field: entries as wide as the field
+    DEPARTEMENT, // compares the first two columns
+    DEPT_A_3,    // compares the first three columns
+    UN_CARAC,    // compares one column
+    CAUSES,      // pairs: code as wide as the field, date or "TOUJOURS"
+    SERIES,      // pairs: body of six columns, series letters
+    PLAGES,      // triples of six columns
+    SANS_USAGE,  // is given a list and does not consult it
+};
+
+/** Every check that is given a list. */
+const std::map<fVerif*, eUsage> USAGES = {
+    {fVerifValAut, ENTIER},   {fVerifDiffNull, ENTIER}, {fVDIFFNULLVTAB, ENTIER}, {fVTABP5, ENTIER},
+    {fVTABP6, ENTIER},        {fVTABP8, ENTIER},        {fVTABDIFFFR, ENTIER},    {fVDIFFVD, ENTIER},
+    {fCDIFF, ENTIER},         {enteteE3, ENTIER},       {enteteE4, ENTIER},       {enteteE8, ENTIER},
+    {enteteE10, ENTIER},      {enteteE12, ENTIER},      {enteteE13, ENTIER},      {finF3, ENTIER},
+    {erti_fC5, ENTIER},       {erti_fC9C10, ENTIER},    {fexp1_C4, ENTIER},       {ecbo_C12, ENTIER},
+    {ecbo_C15, ENTIER},       {impo_C6_1, ENTIER},      {impo_C6_2, ENTIER},      {impo_C20, ENTIER},
+
+    {fConform8, DEPARTEMENT}, {fConform8FR, DEPARTEMENT}, {fCONFORM8FRNULL, DEPARTEMENT},
+    {fConform10, DEPARTEMENT}, {fConform10FR, DEPARTEMENT}, {fCONFORM10FRNULL, DEPARTEMENT},
+    {fConform10FRnonECHAnon, DEPARTEMENT}, {fCoherenCC_dete_dem, DEPARTEMENT}, {asso_fC6_5, DEPARTEMENT},
+    {impo_C2, DEPARTEMENT},   {nais_C2, DEPARTEMENT},   {nais_C11, DEPARTEMENT},  {nais_C11FRnonUEnon, DEPARTEMENT},
+    {nais_C17, DEPARTEMENT},  {nvmn_C2, DEPARTEMENT},
+
+    {fConform3, DEPT_A_3},
+
+    {fConform_OC_model2, UN_CARAC}, {fConform_OC_model3, UN_CARAC}, {fConform_OC_model4, UN_CARAC},
+    {fConform_BV_model2, UN_CARAC}, {fConform_BV_model3, UN_CARAC}, {fConform_BV_model4, UN_CARAC},
+
+    {fVerifValAutDate, CAUSES},
+    {fConformEget, SERIES},   {fCoherenCCEget, SERIES},
+    {fCoheren_OC_IND_M, PLAGES},
+
+    {enteteE9, SANS_USAGE},   {ecbo_C13, SANS_USAGE},   {entr_fC5, SANS_USAGE},   {sort_fC5, SANS_USAGE},
+    {fConform_temoin_bouc1, SANS_USAGE}, {fConform_OC_FR, SANS_USAGE}, {fConform_OC_TP, SANS_USAGE},
+    {presence_C5, SANS_USAGE}, {fVerif_NUM_ASDA, SANS_USAGE}, {fVerif_CODEPE_ABATNOT, SANS_USAGE},
+    {fVerif_INDIC_ABAT, SANS_USAGE},
+};
+// clang-format on
+
+/** Transaction kinds that have a presence column, and the types they allow. */
+struct genre {
+    const char* nom;
+    int sCorps::*colonne;
+    const tValAutorise* types;
+    int nombreTypes;
+};
+const std::vector<genre> GENRES = {
+    {"CRE", &sCorps::typeCRE, tE6CRE, LentE6CRE}, {"DEM", &sCorps::typeDEM, tE6DEM, LentE6DEM},
+    {"INV", &sCorps::typeINV, tE6INV, LentE6INV}, {"EDI", &sCorps::typeEDI, tE6EDI, LentE6EDI},
+    {"MOD", &sCorps::typeMOD, tE6MOD, LentE6MOD},
+};
+
+/** First and last column of a part of the record, and its slots. */
+struct etendue {
+    int debut;
+    int fin;
+    int emplacements;
+};
+etendue etendueDe(ePartie partie) {
+    if (partie == ENTETE) return {1, 62, 13};
+    if (partie == FIN) return {231, 256, 5};
+    return {63, 230, 100};
+}
+
+bool supplementaire(const sCorps& ligne) { return ligne.debut == 0; }
+
+/** Calls `f(table, row index, row, row with the columns)` for every row. */
+template <typename Fonction>
+void pourChaqueLigne(Fonction f) {
+    for (const tableNommee& t : TABLES) {
+        const sCorps* champ = nullptr;
+        for (int i = 0; i < t.longueur; ++i) {
+            const sCorps& ligne = t.lignes[i];
+            if (!supplementaire(ligne)) champ = &ligne;
+            SCOPED_TRACE(t.nom + " row " + std::to_string(i) + " (field " +
+                         std::to_string(ligne.numChamp + 1) + ")");
+            ASSERT_NE(champ, nullptr) << "an extra row comes first";
+            f(t, ligne, *champ);
+        }
+    }
+}
+
+/** Rows with columns of a table: the fields by slot. */
+std::vector<const sCorps*> emplacements(const sCorps* lignes, int longueur) {
+    std::vector<const sCorps*> r;
+    for (int i = 0; i < longueur; ++i)
+        if (!supplementaire(lignes[i])) r.push_back(&lignes[i]);
+    return r;
+}
+
+int largeur(const sCorps& champ) { return champ.fin - champ.debut + 1; }
+
+/** Whether `texte` lies in the slots; its slot when it is the start of one. */
+struct lieu {
+    bool dedans = false;
+    int emplacement = -1;
+};
+template <int N>
+lieu lieuDe(const valeurVSE (&slots)[N], const char* texte) {
+    const auto adresse = reinterpret_cast<std::uintptr_t>(texte);
+    const auto premiere = reinterpret_cast<std::uintptr_t>(slots);
+    if (adresse < premiere || adresse >= premiere + sizeof slots) return {};
+    const std::uintptr_t ecart = adresse - premiere;
+    return {true, ecart % sizeof(valeurVSE) == 0 ? static_cast<int>(ecart / sizeof(valeurVSE)) : -1};
+}
+
+}  // namespace
+
+TEST(Tables, ChacuneASonNombreDeLignes) {
+    for (const tableNommee& t : TABLES)
+        EXPECT_EQ(t.longueur, t.attendue) << t.nom;
+}
+
+TEST(Tables, AucuneTableAiguilleeNEstOubliee) {
+    std::set<const sCorps*> connues;
+    for (const tableNommee& t : TABLES)
+        EXPECT_TRUE(connues.insert(t.lignes).second) << t.nom << " stands twice";
+    for (const sAiguillage& route : tAiguillage)
+        if (route.tabVerif != nullptr) connues.erase(route.tabVerif);
+    EXPECT_EQ(connues, (std::set<const sCorps*>{tEntete, tFin, tFich}));
+}
+
+TEST(Tables, LesChampsTiennentDansLesEmplacements) {
+    for (const tableNommee& t : TABLES)
+        EXPECT_LE(static_cast<int>(emplacements(t.lignes, t.longueur).size()),
+                  etendueDe(t.partie).emplacements)
+            << t.nom;
+    EXPECT_EQ(emplacements(tEntete, lEntete).size(), 13U);
+    EXPECT_EQ(emplacements(tFin, lFin).size(), 5U);
+    EXPECT_EQ(emplacements(tFich, lFich).size(), 9U);
+}
+
+TEST(Tables, LesColonnesMontentSansSeChevaucher) {
+    for (const tableNommee& t : TABLES) {
+        const etendue e = etendueDe(t.partie);
+        int precedente = e.debut - 1;
+        for (const sCorps* champ : emplacements(t.lignes, t.longueur)) {
+            EXPECT_GT(champ->debut, precedente) << t.nom << " field " << champ->numChamp + 1;
+            EXPECT_GE(champ->fin, champ->debut) << t.nom << " field " << champ->numChamp + 1;
+            precedente = champ->fin;
+        }
+        EXPECT_LE(precedente, e.fin) << t.nom;
+    }
+}
+
+TEST(Tables, ToutesLesColonnesSontCoupeesSaufExceptions) {
+    struct trou {
+        std::string table;
+        int debut;
+        int fin;
+        std::string raison;
+    };
+    const std::vector<trou> PERMIS = {
+        {"tAbat", 139, 230, "nothing behind the indicator is read"},
+        {"tErre", 117, 161, "C11 to C28 have no row"},
+        {"tErre", 230, 230, "nothing behind C37 is read"},
+        {"tInfo", 79, 119, "not used; C4 begins behind it"},
+        {"tNais", 151, 158, "used by NVMN; C18 to C23 have no row"},
+        {"tRebo", 101, 211, "C7 to C22 have no row"},
+    };
+    std::vector<std::string> attendus;
+    for (const trou& p : PERMIS) {
+        EXPECT_FALSE(p.raison.empty());
+        attendus.push_back(p.table + " " + std::to_string(p.debut) + "-" + std::to_string(p.fin));
+    }
+    std::vector<std::string> trouves;
+    for (const tableNommee& t : TABLES) {
+        const etendue e = etendueDe(t.partie);
+        int libre = e.debut;
+        const auto noter = [&](int jusqua) {
+            if (libre < jusqua)
+                trouves.push_back(t.nom + " " + std::to_string(libre) + "-" + std::to_string(jusqua - 1));
+        };
+        for (const sCorps* champ : emplacements(t.lignes, t.longueur)) {
+            noter(champ->debut);
+            libre = champ->fin + 1;
+        }
+        noter(e.fin + 1);
+    }
+    EXPECT_EQ(trouves, attendus);
+}
+
+TEST(Tables, LesNumerosDeChampSuiventLesEmplacementsSaufExceptions) {
+    // Fields without a row: from there on a field's slot is not its number.
+    const std::vector<std::string> PERMIS = {
+        "tErre slot 11: field 29",
+        "tNais slot 18: field 24",
+        "tRebo slot 7: field 23",
+    };
+    std::vector<std::string> sauts;
+    for (const tableNommee& t : TABLES) {
+        int rang = 0;
+        int suivant = 0;
+        for (const sCorps* champ : emplacements(t.lignes, t.longueur)) {
+            ++rang;
+            EXPECT_GE(champ->numChamp, suivant) << t.nom << " slot " << rang;
+            if (champ->numChamp != suivant)
+                sauts.push_back(t.nom + " slot " + std::to_string(rang) + ": field " +
+                                std::to_string(champ->numChamp + 1));
+            suivant = champ->numChamp + 1;
+        }
+    }
+    EXPECT_EQ(sauts, PERMIS);
+}
+
+TEST(Tables, UneLigneSupplementaireSuitSonChamp) {
+    pourChaqueLigne([](const tableNommee&, const sCorps& ligne, const sCorps& champ) {
+        EXPECT_EQ(supplementaire(ligne), ligne.fin == 0);
+        EXPECT_EQ(ligne.numChamp, champ.numChamp);
+    });
+}
+
+TEST(Tables, LesCodesDePresenceSont0A2) {
+    pourChaqueLigne([](const tableNommee& t, const sCorps& ligne, const sCorps&) {
+        for (const int code : {ligne.typeCRE, ligne.typeDEM, ligne.typeINV, ligne.typeEDI, ligne.typeMOD}) {
+            EXPECT_TRUE(code >= 0 && code <= 2) << code;
+            const bool sansGenre = t.partie != CORPS || t.lignes == tFich;
+            EXPECT_TRUE(!sansGenre || code == 1) << "applied without a kind, has code " << code;
+            EXPECT_TRUE(ligne.pfVerif != nullptr || code != 0) << "nothing to run";
+        }
+    });
+}
+
+TEST(Tables, UneVerificationAUnNumeroDErreur) {
+    pourChaqueLigne([](const tableNommee&, const sCorps& ligne, const sCorps&) {
+        const bool numerote = ligne.noErr >= 1 && ligne.noErr <= 999;
+        EXPECT_TRUE(ligne.pfVerif != nullptr ? numerote : ligne.noErr == 0) << ligne.noErr;
+    });
+}
+
+TEST(Tables, SeuleLaLigneViergeDuPiedEstSupplementaireSansVerification) {
+    std::vector<std::string> vierges;
+    pourChaqueLigne([&](const tableNommee& t, const sCorps& ligne, const sCorps&) {
+        if (supplementaire(ligne) && ligne.pfVerif == nullptr)
+            vierges.push_back(t.nom + " F" + std::to_string(ligne.numChamp + 1));
+    });
+    EXPECT_EQ(vierges, std::vector<std::string>{"tFin F2"});
+}
+
+TEST(Tables, UneListeAvecSonCompte) {
+    pourChaqueLigne([](const tableNommee&, const sCorps& ligne, const sCorps&) {
+        ASSERT_NE(ligne.plenSverif, nullptr);
+        if (ligne.sverif == nullptr) {
+            EXPECT_EQ(ligne.plenSverif, &Len0);
+            return;
+        }
+        EXPECT_NE(ligne.pfVerif, nullptr) << "a list for no check";
+        const auto compte = COMPTES.find(ligne.sverif);
+        ASSERT_NE(compte, COMPTES.end()) << "unknown list";
+        EXPECT_EQ(ligne.plenSverif, compte->second);
+        EXPECT_GT(*ligne.plenSverif, 0);
+    });
+    EXPECT_EQ(Len0, 0);
+}
+
+TEST(Tables, ChaqueListeEstNommeeParUneLigne) {
+    std::map<const void*, const int*> restantes = COMPTES;
+    std::map<fVerif*, eUsage> inutiles = USAGES;
+    pourChaqueLigne([&](const tableNommee&, const sCorps& ligne, const sCorps&) {
+        restantes.erase(ligne.sverif);
+        if (ligne.pfVerif != nullptr) inutiles.erase(ligne.pfVerif);
+    });
+    EXPECT_TRUE(restantes.empty()) << restantes.size() << " lists are named by no row";
+    EXPECT_TRUE(inutiles.empty()) << inutiles.size() << " checks are named by no row";
+}
+
+TEST(Tables, LesEntreesOntLaLargeurQueLaVerificationCompare) {
+    pourChaqueLigne([](const tableNommee&, const sCorps& ligne, const sCorps& champ) {
+        if (ligne.pfVerif == nullptr) return;
+        const auto usage = USAGES.find(ligne.pfVerif);
+        if (ligne.sverif == nullptr) {
+            EXPECT_EQ(usage, USAGES.end()) << "the list is missing";
+            return;
+        }
+        ASSERT_NE(usage, USAGES.end()) << "use of the list unknown";
+        const auto* const liste = static_cast<const tValAutorise*>(ligne.sverif);
+        const int compte = *ligne.plenSverif;
+        const auto large = [&](int rang) { return static_cast<int>(std::strlen(liste[rang].valeur)); };
+        const auto toutes = [&](int attendue) {
+            for (int k = 0; k < compte; ++k)
+                EXPECT_EQ(large(k), attendue) << "entry " << liste[k].valeur;
+        };
+        switch (usage->second) {
+            case ENTIER: toutes(largeur(champ)); break;
+            case DEPARTEMENT: toutes(2); break;
+            case DEPT_A_3: toutes(3); break;
+            case UN_CARAC: toutes(1); break;
+            case CAUSES:
+                EXPECT_EQ(compte % 2, 0);
+                for (int k = 0; k + 1 < compte; k += 2) {
+                    EXPECT_EQ(large(k), largeur(champ)) << "entry " << liste[k].valeur;
+                    EXPECT_EQ(large(k + 1), 8) << "entry " << liste[k + 1].valeur;
+                }
+                break;
+            case SERIES:
+                EXPECT_EQ(compte % 2, 0);
+                for (int k = 0; k < compte; k += 2)
+                    EXPECT_EQ(large(k), 6) << "entry " << liste[k].valeur;
+                break;
+            case PLAGES:
+                EXPECT_EQ(compte % 3, 0);
+                toutes(6);
+                break;
+            case SANS_USAGE: break;
+        }
+    });
+}
+
+TEST(Tables, UneDependanceEstUnChampQuiExiste) {
+    pourChaqueLigne([](const tableNommee& t, const sCorps& ligne, const sCorps& champ) {
+        ASSERT_NE(ligne.dependance, nullptr);
+        for (const lieu& l :
+             {lieuDe(valEnteteVSE, ligne.dependance), lieuDe(valFinVSE, ligne.dependance),
+              lieuDe(valFichEnteteVSE, ligne.dependance), lieuDe(valFichCorpsVSE, ligne.dependance),
+              lieuDe(valFichFinVSE, ligne.dependance)}) {
+            if (!l.dedans) continue;
+            EXPECT_GE(l.emplacement, 0) << "not the start of a slot";
+            EXPECT_NE(ligne.pfVerif, nullptr) << "a dependency for no check";
+            return;
+        }
+        const lieu l = lieuDe(valCorpsVSE, ligne.dependance);
+        if (!l.dedans) {
+            EXPECT_STREQ(ligne.dependance, "") << "neither a slot nor the empty text";
+            return;
+        }
+        const int k = l.emplacement;
+        EXPECT_NE(ligne.pfVerif, nullptr) << "a dependency for no check";
+        ASSERT_GE(k, 0) << "not the start of a slot";
+        ASSERT_EQ(t.partie, CORPS);
+        const std::vector<const sCorps*> champs = emplacements(t.lignes, t.longueur);
+        ASSERT_LT(k, static_cast<int>(champs.size()));
+        // A row names its dependency by field number: up to that field the
+        // table has no gap.
+        EXPECT_EQ(champs[static_cast<std::size_t>(k)]->numChamp, k);
+        EXPECT_NE(champs[static_cast<std::size_t>(k)], &champ) << "a field that depends on itself";
+    });
+}
+
+TEST(Tables, LExploitationConcerneeEstUnPaysEtUnNumero) {
+    for (const sAiguillage& route : tAiguillage) {
+        SCOPED_TRACE(route.nomVSE);
+        EXPECT_EQ(route.champErrC7 == CINC, route.champErrC8 == CINC);
+        if (route.champErrC7 == CINC) continue;
+        const std::vector<const sCorps*> champs = emplacements(route.tabVerif, *route.pLenTabVerif);
+        ASSERT_LT(route.champErrC8, champs.size());
+        EXPECT_EQ(route.champErrC8, route.champErrC7 + 1);
+        EXPECT_EQ(champs[route.champErrC7]->numChamp, static_cast<int>(route.champErrC7));
+        EXPECT_EQ(champs[route.champErrC8]->numChamp, static_cast<int>(route.champErrC8));
+        EXPECT_EQ(largeur(*champs[route.champErrC7]), 2);
+        EXPECT_EQ(largeur(*champs[route.champErrC8]), 12);
+    }
+}
+
+TEST(Tables, UnGenreRefuseEstInterditPartoutSaufExceptions) {
+    // A type's rows forbid the kinds that the header does not allow it, and
+    // run or skip in the others; types that stand apart, with their code.
+    const std::map<std::string, std::string> EXCEPTIONS = {
+        {"ABAT DEM: 1", "the header alone refuses it"},
+        {"ABAT EDI: 1", "the header alone refuses it"},
+        {"ERRE CRE: 0", "an error return has kind ECQ and runs as a creation; the header refuses CRE"},
+        {"ERRE DEM: 1", "the header alone refuses it"},
+        {"ERRE INV: 0", "the header alone refuses it"},
+        {"ERRE EDI: 1", "the header alone refuses it"},
+        {"ERRE MOD: 0", "the header alone refuses it"},
+        {"RATA INV: 1", "the header alone refuses it"},
+    };
+    std::set<std::string> attendues;
+    for (const auto& [cellule, raison] : EXCEPTIONS)
+        attendues.insert(cellule);
+    std::set<std::string> vues;
+    for (const sAiguillage& route : tAiguillage) {
+        if (route.tabVerif == nullptr) continue;
+        for (const genre& g : GENRES) {
+            const bool permis = dansListe(route.nomVSE, g.types, g.nombreTypes) != 0;
+            for (int i = 0; i < *route.pLenTabVerif; ++i) {
+                const sCorps& ligne = route.tabVerif[i];
+                const int code = ligne.*g.colonne;
+                if (ligne.pfVerif != nullptr && (code != 2) != permis)
+                    vues.insert(std::string(route.nomVSE) + " " + g.nom + ": " + std::to_string(code));
+            }
+        }
+    }
+    EXPECT_EQ(vues, attendues);
+}
+
+TEST(Tables, ChaqueGenrePermisVerifieQuelqueChose) {
+    // A kind that the header allows a type runs at least one of its rows.
+    for (const genre& g : GENRES) {
+        for (int k = 0; k < g.nombreTypes; ++k) {
+            const sAiguillage& route = tAiguillage[aiguiller(g.types[k].valeur)];
+            ASSERT_NE(route.tabVerif, nullptr) << g.types[k].valeur;
+            int lancees = 0;
+            for (int i = 0; i < *route.pLenTabVerif; ++i)
+                lancees += route.tabVerif[i].pfVerif != nullptr && route.tabVerif[i].*g.colonne == 0;
+            EXPECT_GT(lancees, 0) << route.nomVSE << " " << g.nom;
+        }
+    }
+}
