@@ -36,7 +36,7 @@ void verdicts(const char* nom, fVerif* verif, const tValAutorise* liste, int len
             << nom << " dependance \"" << c.dependance << "\" champ \"" << c.champ << "\"";
 }
 
-/** The same character everywhere but at column `col`. */
+/** `texte` with `c` at column `col`. */
 std::string avec(std::string texte, int col, char c) {
     texte[static_cast<std::size_t>(col) - 1] = c;
     return texte;
