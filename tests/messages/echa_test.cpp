@@ -1,1 +1,149 @@
 #include <gtest/gtest.h>
+
+#include "messages/cas.h"
+
+using namespace essai;
+using namespace quilvane;
+
+namespace {
+
+const std::string BLANCS_2(2, ' ');
+const std::string BLANCS_12(12, ' ');
+const std::string BLANCS_14(14, ' ');
+const std::string ETOILES_14(14, '*');
+
+/** An exchanged animal; fields that no rule looks at hold '#'. */
+std::string echange(const std::string& genre) {
+    return vse("ECHA", genre,
+               {{63, "DE"},
+                {65, "1234567890  "},
+                {77, "##"},
+                {79, "1"},
+                {80, "10"},
+                {82, "01012020"},
+                {90, "ABCD"},
+                {94, std::string(11, '#')},
+                {105, "FR"},
+                {107, "7812345678  "},
+                {119, "10"},
+                {121, "DE"},
+                {123, "1234567891  "},
+                {135, "10"},
+                {137, "BE"},
+                {139, "123456      "},
+                {151, "FR"},
+                {153, "78123456    "},
+                {165, std::string(10, '#')},
+                {175, "1"},
+                {176, "0"},
+                {177, "01032024"},
+                {185, std::string(46, '#')}});
+}
+
+}  // namespace
+
+TEST(Echa, TouteLignePasseEtEchoue) {
+    const std::string tous = "CRE INV MOD";
+    const std::string sauvINV = "CRE MOD";
+    prouverLignes({
+        .type = "ECHA",
+        .genres = tous,
+        .modele = echange,
+        .cas =
+            {
+                {0, tous, {{63, "FR"}}, {1}},
+                {1, tous, {{65, BLANCS_12}}, {1, 1}, "a blank number has no foreign form"},
+                {2, tous, {{65, "DE12345678  "}}, {1}},
+                {4, sauvINV, {{79, "3"}}, {3}},
+                {5, sauvINV, {{80, "16"}}, {4}},
+                {6, sauvINV, {{82, "  012020"}}, {5}},
+                {7,
+                 "CRE",
+                 {{82, "16032024"}},
+                 {52, 137},
+                 "a date after the record's is after any correct receipt date"},
+                {7, "MOD", {{82, "16032024"}}, {52}},
+                {8, sauvINV, {{90, "    "}}, {10}},
+                {11, sauvINV, {{105, "QQ"}}, {6}},
+                {12, sauvINV, {{105, "DE"}, {107, "DE12345678  "}}, {6}},
+                {13, sauvINV, {{107, "9912345678  "}}, {67}},
+                {14, sauvINV, {{107, BLANCS_12}}, {113}},
+                {15, sauvINV, {{119, "16"}}, {8}},
+                {16, sauvINV, {{121, "QQ"}}, {14}},
+                {17, sauvINV, {{123, "DE12345678  "}}, {14}},
+                {18, sauvINV, {{123, BLANCS_12}}, {114}},
+                {19, sauvINV, {{135, "16"}}, {9}},
+                {20, sauvINV, {{137, BLANCS_2}}, {55, 115}, "a number without a country breaks their bond"},
+                {21, sauvINV, {{137, "QQ"}}, {2}},
+                {22,
+                 sauvINV,
+                 {{137, BLANCS_14}},
+                 {55, 55},
+                 "without both there is no bond, but both are required"},
+                {22,
+                 sauvINV,
+                 {{139, BLANCS_12}},
+                 {55, 2, 115},
+                 "a country without a number, blank as a number"},
+                {22, sauvINV, {{137, "FR"}, {139, BLANCS_12}}, {55, 68, 115}, "the same for a French number"},
+                {23, sauvINV, {{137, "FR"}, {139, "99123456    "}}, {68}},
+                {24, sauvINV, {{139, "12 456      "}}, {2}},
+                {25, sauvINV, {{82, "30061999"}, {137, BLANCS_2}}, {115}},
+                {26, "CRE", {{151, "BE"}}, {21}},
+                {27, "CRE", {{153, "7812345     "}}, {68}},
+                {28, "CRE", {{153, "77123456    "}}, {50}},
+                {30, sauvINV, {{175, "2"}}, {54}},
+                {31, "MOD", {{176, "2"}}, {132}},
+                {32, "CRE", {{177, "        "}}, {134}},
+                {33, "CRE", {{177, "16032024"}}, {52}},
+                {34, "CRE", {{177, "31122019"}}, {137}},
+            },
+    });
+}
+
+TEST(Echa, CasDEnregistrements) {
+    prouverVSE(
+        echange,
+        {
+            {"Switzerland exchanges", "CRE", {{63, "CH"}}, {}},
+            {"the newest members exchange", "CRE", {{63, "XI"}}, {}},
+            {"a third country does not", "CRE", {{63, "US"}}, {1}},
+            {"no country", "CRE", {{63, BLANCS_2}}, {1}},
+            {"small letters in the number", "CRE", {{65, "1234567890ab"}}, {1}},
+            {"blank inside the number", "CRE", {{65, "12 34       "}}, {1}},
+            {"born before the reference date, day unknown", "CRE", {{82, "  061999"}}, {}},
+            {"born on it, day unknown", "CRE", {{82, "  081999"}}, {5}},
+            {"born before it, year only", "CRE", {{82, "    1999"}}, {}},
+            {"no birth date", "CRE", {{82, "        "}}, {5}},
+            {"born before it: birth holding is free", "CRE", {{82, "30061999"}, {137, BLANCS_14}}, {}},
+            {"born on it: birth holding is required", "CRE", {{82, "01071999"}, {137, BLANCS_14}}, {55, 55}},
+            {"breed of the second list only", "CRE", {{80, "00"}, {119, "00"}, {135, "00"}}, {}},
+            {"no mother, no father",
+             "CRE",
+             {{105, BLANCS_14}, {119, "  "}, {121, BLANCS_14}, {135, "  "}},
+             {}},
+            {"both emptied", "CRE", {{105, ETOILES_14}, {119, "**"}, {121, ETOILES_14}, {135, "**"}}, {}},
+            {"mother's number repeats FR and has no French form", "CRE", {{107, "FR12345678  "}}, {6, 67}},
+            {"foreign mother, any foreign number", "CRE", {{105, "DE"}, {107, "9912345678AB"}}, {}},
+            {"numbers without countries", "CRE", {{105, BLANCS_2}, {121, BLANCS_2}}, {113, 114}},
+            {"the stars are no French number of a birth holding", "CRE", {{137, "FR************"}}, {68}},
+            {"blank holding", "CRE", {{153, BLANCS_12}}, {68, 50}},
+            {"receipt on the birth date", "CRE", {{177, "01012020"}}, {}},
+            {"receipt on the record date", "CRE", {{177, "15032024"}}, {}},
+            {"no tag count of zero", "CRE", {{175, "0"}}, {54}},
+            {"C22 is free on creation", "CRE", {{176, "#"}}, {}},
+            {"C22 blank on modification", "MOD", {{176, " "}}, {132}},
+            {"holding and receipt are free on modification",
+             "MOD",
+             {{151, std::string(14, '#')}, {177, "********"}},
+             {}},
+            {"an invalidation gives the number only", "INV", {{79, std::string(152, '#')}}, {}},
+        });
+}
+
+TEST(Echa, GenresRefuses) {
+    prouverPresence("ECHA", &sCorps::typeDEM, 2);
+    prouverPresence("ECHA", &sCorps::typeEDI, 2);
+    for (const char* genre : {"DEM", "EDI"})
+        EXPECT_EQ(codesDe(echange(genre)), TOUT_REFUSE) << genre;
+}

@@ -1,1 +1,108 @@
 #include <gtest/gtest.h>
+
+#include "messages/cas.h"
+#include "messages/messages.h"
+
+using namespace essai;
+using namespace quilvane;
+
+namespace {
+
+const std::string BLANCS_12(12, ' ');
+const std::string BLANCS_30(30, ' ');
+
+/** A holding; fields that no rule looks at hold '#'. */
+std::string exploitation(const std::string& genre) {
+    return vse("EXP1", genre,
+               {{63, "FR"},
+                {65, "78123456    "},
+                {77, "##"},
+                {79, "GAEC"},
+                {83, std::string(30, '#')},
+                {113, "LES ORMES"},
+                {143, "ROUTE DE LA MARE"},
+                {173, "78000"},
+                {178, "VERSAILLES"},
+                {208, std::string(14, '#')},
+                {222, "10"},
+                {224, std::string(7, '#')}});
+}
+
+}  // namespace
+
+TEST(Exp1, TouteLignePasseEtEchoue) {
+    const std::string tous = "CRE INV MOD";
+    const std::string sauvINV = "CRE MOD";
+    prouverLignes({
+        .type = "EXP1",
+        .genres = tous,
+        .modele = exploitation,
+        .cas =
+            {
+                {0, tous, {{63, "BE"}}, {31}},
+                {1, tous, {{65, BLANCS_12}}, {31, 68, 50}, "a blank number has neither form nor department"},
+                {2, tous, {{65, "7812345     "}}, {68}},
+                {3, tous, {{65, "77123456    "}}, {50}},
+                {5, "CRE", {{79, "ETS "}}, {32}},
+                {6, "MOD", {{79, "ABCD"}}, {32}},
+                {8,
+                 sauvINV,
+                 {{113, BLANCS_30 + BLANCS_30}},
+                 {75, 75},
+                 "each line fails only when both are blank"},
+                {9,
+                 sauvINV,
+                 {{113, BLANCS_30 + BLANCS_30}},
+                 {75, 75},
+                 "each line fails only when both are blank"},
+                {10, sauvINV, {{173, "     "}}, {33}},
+                {11, sauvINV, {{178, BLANCS_30}}, {82}},
+                {13, sauvINV, {{222, "30"}}, {35}},
+            },
+    });
+}
+
+TEST(Exp1, FormeJuridique) {
+    const std::vector<verdict> communs = {
+        {"GAEC", true},  {"M   ", true},  {"SCIC", true}, {"    ", true}, {"****", true},   {"ABCD", false},
+        {"gaec", false}, {"GAE ", false}, {"***", false}, {"   ", false}, {"*****", false}, {"", false},
+    };
+    prouverChamps(fexp1_C4, "", communs, TRSCRE, LenTRSCRE);
+    prouverChamps(fexp1_C4, "", communs, TRSMOD, LenTRSMOD);
+    for (const char* ancienne : {"ETS ", "MLE ", "MR  ", "MRS ", "STE "}) {
+        EXPECT_FALSE(accepte(fexp1_C4, "", ancienne, TRSCRE, LenTRSCRE)) << ancienne;
+        EXPECT_TRUE(accepte(fexp1_C4, "", ancienne, TRSMOD, LenTRSMOD)) << ancienne;
+    }
+    EXPECT_TRUE(accepte(fexp1_C4, "", "****", nullptr, 0));
+    EXPECT_TRUE(accepte(fexp1_C4, "", "    ", nullptr, 0));
+    EXPECT_FALSE(accepte(fexp1_C4, "", "GAEC", TRSCRE, 0));
+}
+
+TEST(Exp1, CasDEnregistrements) {
+    prouverVSE(exploitation,
+               {
+                   {"legal form emptied", "CRE", {{79, "****"}}, {}},
+                   {"no legal form", "CRE", {{79, "    "}}, {}},
+                   {"no legal form", "MOD", {{79, "    "}}, {}},
+                   {"four letters that are no legal form", "CRE", {{79, "ABCD"}}, {32}},
+                   {"older form on modification", "MOD", {{79, "ETS "}}, {}},
+                   {"first line only", "CRE", {{143, BLANCS_30}}, {}},
+                   {"second line only", "CRE", {{113, BLANCS_30}}, {}},
+                   {"last kind of the list", "CRE", {{222, "90"}}, {}},
+                   {"overseas holding", "CRE", {{65, "97612345    "}}, {50}},
+                   {"four digits and a blank", "CRE", {{173, "7800 "}}, {}},
+                   {"an invalidation gives the number only", "INV", {{79, std::string(152, '#')}}, {}},
+                   {"the same with blanks", "INV", {{79, std::string(152, ' ')}}, {}},
+               });
+    std::string r = exploitation("CRE");
+    poser(r, 27, "078IPG  ");
+    poser(r, 65, "78123456   1");
+    EXPECT_EQ(codesDe(r), std::vector<int>{68});
+}
+
+TEST(Exp1, GenresRefuses) {
+    prouverPresence("EXP1", &sCorps::typeDEM, 2);
+    prouverPresence("EXP1", &sCorps::typeEDI, 2);
+    for (const char* genre : {"DEM", "EDI"})
+        EXPECT_EQ(codesDe(exploitation(genre)), TOUT_REFUSE) << genre;
+}
