@@ -87,10 +87,11 @@ TEST(Entete, LignesDansLeurOrdre) {
             EXPECT_EQ(l.fin, a.fin) << i;
             EXPECT_EQ(l.pfVerif, a.verif) << i;
             EXPECT_EQ(l.sverif, a.liste) << i;
-            if (a.dependance != nullptr)
+            if (a.dependance != nullptr) {
                 EXPECT_EQ(l.dependance, a.dependance) << i;
-            else
+            } else {
                 EXPECT_TRUE(l.dependance != entete(E5) && l.dependance != entete(E6)) << i;
+            }
             EXPECT_EQ(l.noErr, a.noErr) << i;
             for (const int presence : {l.typeCRE, l.typeDEM, l.typeINV, l.typeEDI, l.typeMOD})
                 EXPECT_EQ(presence, 1) << i;
