@@ -63,7 +63,7 @@ bool dossier::existe(const std::string& relatif) const {
 std::map<std::string, std::string> dossier::contenu() const {
     std::map<std::string, std::string> r;
     for (const auto& e : fs::recursive_directory_iterator(chemin)) {
-        const std::string relatif = fs::relative(e.path(), chemin).string();
+        const std::string relatif = e.path().lexically_relative(chemin).string();
         if (e.is_directory())
             r[relatif + "/"] = "";
         else

@@ -50,9 +50,9 @@ struct resultat {
 
 /** How to run the program. */
 struct options {
-    std::string horloge = HORLOGE;              // in the form that faketime takes
-    std::map<std::string, std::string> milieu;  // added to the environment
-    std::vector<std::string> precharge;         // libraries to put in front
+    std::string horloge = HORLOGE;                   // in the form that faketime takes
+    std::map<std::string, std::string> milieu = {};  // added to the environment
+    std::vector<std::string> precharge = {};         // libraries to put in front
     std::string argv0 = "quilvane";
     std::string entreeStandard = "/dev/null";
     int tuerApres = 0;  // microseconds after which it is killed, 0 never
