@@ -1,1 +1,278 @@
 #include <gtest/gtest.h>
+
+#include "messages/cas.h"
+#include "messages/messages.h"
+#include "support/mouvement.h"
+
+using namespace essai;
+using namespace quilvane;
+
+namespace {
+
+/** A correct entry of kind `genre`, bought (A) from a French holding. */
+std::string modele(const std::string& genre) {
+    return vse("ENTR", genre,
+               {{63, "FR"},
+                {65, "7812345678  "},
+                {79, "01022024"},
+                {87, "A"},
+                {88, "FR"},
+                {90, "78123456    "},
+                {102, "FR"},
+                {104, NUMERO},
+                {176, "05022024"},
+                {185, "10022024"}});
+}
+
+const std::string SANS_DATE(8, ' ');
+
+}  // namespace
+
+TEST(Entr, TouteLignePasseEtEchoue) {
+    const char* const NUMERO_BLANC = "a blank number has no form either";
+    prouverLignes({
+        .type = "ENTR",
+        .genres = "CRE INV MOD ECQ",
+        .modele = modele,
+        // clang-format off
+        .cas = {
+            // animal
+            {0, "CRE INV MOD ECQ", {{63, "ZZ"}}, {1}},
+            {1, "CRE INV MOD ECQ", {{65, SANS_NUMERO}}, {1, 67}, NUMERO_BLANC},
+            {1, "CRE INV MOD ECQ", {{63, "BE"}, {65, SANS_NUMERO}}, {1, 1}, NUMERO_BLANC},
+            {1, "CRE INV MOD ECQ", {{63, "US"}, {65, SANS_NUMERO}}, {1, 118}, NUMERO_BLANC},
+            {2, "CRE INV MOD ECQ", {{65, "781234567   "}}, {67}},
+            {3, "CRE INV MOD ECQ", {{63, "US"}, {65, "781234567   "}}, {118}},
+            {4, "CRE INV MOD ECQ", {{63, "BE"}, {65, "BE1234567   "}}, {1}},
+            // date and cause
+            {6, "CRE ECQ", {{79, "30022023"}}, {22}},
+            {6, "CRE ECQ", {{79, "  061998"}}, {22}},
+            {7, "MOD", {{79, "30022023"}}, {22}},
+            {7, "MOD", {{79, "  022024"}}, {22}},
+            {8, "CRE ECQ", {{79, "16032024"}, {185, SANS_DATE}}, {52}},
+            {8, "MOD", {{79, "16032024"}}, {52}},
+            {9, "CRE MOD ECQ", {{87, "X"}}, {23}},
+            {9, "CRE", {{87, "G"}}, {23}},
+            {9, "ECQ", {{87, "G"}}, {23, 23}, "expired, and a cause of creations"},
+            {10, "MOD ECQ", {{87, "F"}}, {23}},
+            // holding
+            {11, "CRE INV MOD ECQ", {{88, "BE"}}, {21}},
+            {12, "CRE MOD ECQ", {{90, SANS_NUMERO}}, {21, 68, 50}, NUMERO_BLANC},
+            {12, "INV", {{90, SANS_NUMERO}}, {21, 68}, NUMERO_BLANC},
+            {13, "CRE INV MOD ECQ", {{90, "7812345     "}}, {68}},
+            {14, "CRE MOD ECQ", {{90, NUMERO}}, {50}},
+            // other holding
+            {15, "CRE ECQ", {{102, "ZZ"}}, {24}},
+            {15, "CRE", {{87, "F"}, {102, SANS_PAYS}, {104, SANS_NUMERO}, {116, "MARCHAND"}}, {24}},
+            {16, "MOD", {{102, "ZZ"}}, {24}},
+            {17, "CRE ECQ", {{104, SANS_NUMERO}, {116, "MARCHAND"}}, {24}},
+            {17, "CRE ECQ", {{102, SANS_PAYS}}, {24}},
+            {18, "CRE ECQ", {{104, "3512345     "}}, {68}},
+            {19, "MOD", {{104, SANS_NUMERO}, {116, "MARCHAND"}}, {24}},
+            {19, "MOD", {{102, SANS_PAYS}}, {24}},
+            {20, "MOD", {{104, "3512345     "}}, {68}},
+            {21, "CRE ECQ", {{102, SANS_PAYS}, {104, SANS_NUMERO}}, {24}},
+            {22, "MOD", {{102, SANS_PAYS}, {104, SANS_NUMERO}}, {24}},
+            // second date
+            {23, "INV MOD", {{176, "31022024"}}, {58}},
+            {23, "INV MOD", {{176, SANS_DATE}}, {58}},
+            {24, "INV MOD", {{176, "16032025"}}, {52}},
+            // receipt
+            {26, "CRE ECQ", {{185, "31022024"}}, {134}},
+            {27, "CRE ECQ", {{185, "16032024"}}, {52}},
+            {28, "CRE ECQ", {{185, "31012024"}}, {137}},
+        },
+        // clang-format on
+        .sansEchec = {{10, "CRE", "the four letters are causes of creations"}},
+    });
+}
+
+TEST(Entr, GenreNonPrevuDonneErreurParLigne) {
+    for (const char* genre : {"DEM", "EDI"})
+        EXPECT_EQ(codesDe(modele(genre)), TOUT_REFUSE) << genre;
+    prouverPresence("ENTR", &sCorps::typeDEM, 2);
+    prouverPresence("ENTR", &sCorps::typeEDI, 2);
+}
+
+TEST(Entr, CausesReserveesALaCreation) {
+    const fiche f;
+    EXPECT_EQ(causesRefusees(entr_fC5, f, "X", "CRE"), "");
+    EXPECT_EQ(causesRefusees(entr_fC5, f, "X", "CREX"), "");
+    for (const char* genre : {"MOD", "INV", "DEM", "EDI", "ECQ", "INF", "cre", "CR", "CR ", ""})
+        EXPECT_EQ(causesRefusees(entr_fC5, f, "X", genre), "FGST") << genre;
+    // The cause is read from the field store, not from the field handed over.
+    fiche{.c5 = ""}.placer();
+    EXPECT_TRUE(accepte(entr_fC5, "MOD", "F"));
+    fiche{.c5 = "XF"}.placer();
+    EXPECT_TRUE(accepte(entr_fC5, "MOD", "X"));
+    fiche{.c5 = "FX"}.placer();
+    EXPECT_FALSE(accepte(entr_fC5, "MOD", "X"));
+}
+
+TEST(Entr, PaysBlancExigeParCauses) {
+    EXPECT_EQ(causesRefusees(entr_fC8_cre, {}, SANS_PAYS), "FG");
+    for (const dateMouvement& d : AUTOUR_DE_P8) {
+        const fiche f{.c4 = d.c4};
+        EXPECT_EQ(causesRefusees(entr_fC8_cre, f, SANS_PAYS), "FG") << d.c4;
+        EXPECT_EQ(causesRefusees(entr_fC8_mod, f, SANS_PAYS), d.avantP8 ? "" : "FG") << d.c4;
+    }
+}
+
+TEST(Entr, PaysDonneVientDeLaListe) {
+    // clang-format off
+    const std::vector<verdict> cas = {
+        {"FR", true},  {"BE", true},  {"US", true},  {"EL", true},   {"NORM01  ", true}, {"ZZ", false},
+        {"F ", false}, {" F", false}, {"fr", false}, {"FR ", false}, {"**", false},      {"GR", false},
+        // cut by the end of the record: neither blank nor a country
+        {"", false},   {" ", false},  {"F", false},
+    };
+    // clang-format on
+    for (const char* cause : {"A", "F", "N"}) {
+        for (const char* c4 : {"31121998", "15032024"}) {
+            SCOPED_TRACE(std::string(cause) + " " + c4);
+            fiche{.c4 = c4, .c5 = cause}.placer();
+            prouverChamps(entr_fC8_cre, "", cas);
+            prouverChamps(entr_fC8_mod, "", cas);
+        }
+    }
+}
+
+TEST(Entr, NumeroSansPaysRefusePourTouteCause) {
+    for (const char* c9 : {"35123456    ", "X           ", "           X", "", "           "}) {
+        for (const dateMouvement& d : AUTOUR_DE_P8) {
+            fiche f{.c4 = d.c4, .c8 = SANS_PAYS};
+            EXPECT_EQ(causesAcceptees(entr_fC9_1_cre, f, c9), "") << "'" << c9 << "' " << d.c4;
+            EXPECT_EQ(causesAcceptees(entr_fC9_1_mod, f, c9), "") << "'" << c9 << "' " << d.c4;
+            // Any country will do; its value is another rule's business.
+            for (const char* pays : {"FR", "ZZ", "F ", " "}) {
+                f.c8 = pays;
+                EXPECT_EQ(causesRefusees(entr_fC9_1_cre, f, c9), "") << "'" << c9 << "' " << d.c4 << pays;
+                EXPECT_EQ(causesRefusees(entr_fC9_1_mod, f, c9), "") << "'" << c9 << "' " << d.c4 << pays;
+            }
+        }
+    }
+}
+
+TEST(Entr, NumeroBlancSelonPaysCauseEtDate) {
+    for (const dateMouvement& d : AUTOUR_DE_P8) {
+        const fiche sansPays{.c4 = d.c4, .c8 = SANS_PAYS};
+        EXPECT_EQ(causesRefusees(entr_fC9_1_cre, sansPays, SANS_NUMERO), "") << d.c4;
+        EXPECT_EQ(causesRefusees(entr_fC9_1_mod, sansPays, SANS_NUMERO), "") << d.c4;
+        const fiche avecPays{.c4 = d.c4, .c8 = "BE"};
+        EXPECT_EQ(causesAcceptees(entr_fC9_1_cre, avecPays, SANS_NUMERO), "FG") << d.c4;
+        if (d.avantP8) {
+            EXPECT_EQ(causesRefusees(entr_fC9_1_mod, avecPays, SANS_NUMERO), "") << d.c4;
+        } else {
+            EXPECT_EQ(causesAcceptees(entr_fC9_1_mod, avecPays, SANS_NUMERO), "FG") << d.c4;
+        }
+    }
+}
+
+TEST(Entr, NumeroDeLaFormeDeSonPays) {
+    const struct {
+        const char* c8;
+        const char* c9;
+        bool passe;
+    } cas[] = {
+        // clang-format off
+        {"FR", "35123456    ", true},  {"FR", "97612345    ", true},  {"FR", "20123456    ", true},
+        {"FR", "97512345    ", false}, {"FR", "99123456    ", false}, {"FR", "3512345     ", false},
+        {"FR", "351234567   ", false}, {"FR", "2A123456    ", false}, {"FR", "            ", true},
+        {"BE", "X           ", true},  {"BE", "BE123456    ", true},  {"  ", "X           ", true},
+        {"BE", "            ", true},  {"  ", "            ", true},  {"FR ", "X           ", true},
+        {"fr", "X           ", true},
+        // cut by the end of the record: not twelve blanks, not twelve columns
+        {"FR", "", false}, {"FR", "           ", false}, {"FR", "35123456   ", false}, {"BE", "", true},
+        // clang-format on
+    };
+    for (const auto& c : cas) {
+        fiche{.c8 = c.c8, .c9 = "unread"}.placer();
+        // The departments are the check's own: the row gives no list.
+        EXPECT_EQ(accepte(entr_fC9_2_cre, "", c.c9), c.passe) << c.c8 << " '" << c.c9 << "'";
+        EXPECT_EQ(accepte(entr_fC9_2_mod, "", c.c9), c.passe) << c.c8 << " '" << c.c9 << "'";
+    }
+}
+
+TEST(Entr, TexteExigeSansNumero) {
+    for (const dateMouvement& d : AUTOUR_DE_P8) {
+        const fiche sansNumero{.c4 = d.c4, .c9 = SANS_NUMERO};
+        EXPECT_EQ(causesAcceptees(entr_fC10_cre, sansNumero, SANS_TEXTE), "N") << d.c4;
+        if (d.avantP8) {
+            EXPECT_EQ(causesRefusees(entr_fC10_mod, sansNumero, SANS_TEXTE), "") << d.c4;
+        } else {
+            EXPECT_EQ(causesAcceptees(entr_fC10_mod, sansNumero, SANS_TEXTE), "N") << d.c4;
+        }
+        const fiche avecNumero{.c4 = d.c4, .c9 = "           X"};
+        EXPECT_EQ(causesRefusees(entr_fC10_cre, avecNumero, SANS_TEXTE), "") << d.c4;
+        EXPECT_EQ(causesRefusees(entr_fC10_mod, avecNumero, SANS_TEXTE), "") << d.c4;
+        // Text in any column, and text cut by the end of the record.
+        for (const std::string& texte :
+             {"X" + std::string(59, ' '), std::string(59, ' ') + "X", std::string(59, ' '), std::string()}) {
+            EXPECT_EQ(causesRefusees(entr_fC10_cre, sansNumero, texte), "") << d.c4 << " '" << texte << "'";
+            EXPECT_EQ(causesRefusees(entr_fC10_mod, sansNumero, texte), "") << d.c4 << " '" << texte << "'";
+        }
+    }
+}
+
+TEST(Entr, EnregistrementsParticuliers) {
+    const pose sansPays{102, SANS_PAYS}, sansNumero{104, SANS_NUMERO}, marchand{116, "MARCHAND"};
+    // clang-format off
+    prouverVSE(modele, {
+        // F wants the country of the other holding; its number may be missing.
+        {"F without country", "CRE", {{87, "F"}, sansPays, sansNumero, marchand}, {24}},
+        {"F without country and text", "CRE", {{87, "F"}, sansPays, sansNumero}, {24, 24}},
+        {"F without number", "CRE", {{87, "F"}, sansNumero, marchand}, {}},
+        {"F without number and text", "CRE", {{87, "F"}, sansNumero}, {24}},
+        {"last day of G", "CRE", {{79, "31122004"}, {87, "G"}, sansNumero, marchand}, {}},
+        {"G has ended", "CRE", {{79, "01012005"}, {87, "G"}}, {23}},
+        // A wants a number or a text, N nothing at all.
+        {"A without other party", "CRE", {sansPays, sansNumero}, {24}},
+        {"A with text only", "CRE", {sansPays, sansNumero, marchand}, {}},
+        {"N without other party", "CRE", {{87, "N"}, sansPays, sansNumero}, {}},
+        {"N without other party", "MOD", {{87, "N"}, sansPays, sansNumero}, {}},
+        {"N with country only", "CRE", {{87, "N"}, sansNumero}, {24}},
+        // The letters of exits are no causes of entries.
+        {"S is an exit", "CRE", {{87, "S"}}, {23}},
+        {"T is an exit, and a cause of creations", "MOD", {{87, "T"}}, {23, 23}},
+        // Modification before 1999: a missing country is tolerated.
+        {"before P8, F without country", "MOD", {{79, "31121998"}, {87, "F"}, sansPays, sansNumero}, {23}},
+        {"from P8, F without country", "MOD", {{79, "01011999"}, {87, "F"}, sansPays, sansNumero, marchand}, {23, 24}},
+        {"before P8, country only", "MOD", {{79, "31121998"}, sansNumero}, {}},
+        {"before P8, blank day, nothing", "MOD", {{79, "  121998"}, sansPays, sansNumero}, {}},
+        {"before P8, blank day and month, country only", "MOD", {{79, "    1998"}, sansNumero}, {}},
+        {"from P8, nothing", "MOD", {{79, "01011999"}, sansPays, sansNumero}, {24}},
+        {"from P8, country and text", "MOD", {{79, "01011999"}, sansNumero, marchand}, {24}},
+        {"creation before P8, nothing", "CRE", {{79, "31121998"}, sansPays, sansNumero}, {24}},
+        // G is refused on modification whatever the date, and free in an inventory.
+        {"G on its last day", "MOD", {{79, "31122004"}, {87, "G"}}, {23}},
+        {"G in 1998", "MOD", {{79, "31121998"}, {87, "G"}}, {23}},
+        {"G after its end", "MOD", {{87, "G"}}, {23, 23}},
+        {"G in an inventory", "INV", {{87, "G"}}, {}},
+        {"F in an inventory", "INV", {{87, "F"}, sansPays}, {}},
+        // A number needs its country and has the form of it.
+        {"number without country", "CRE", {sansPays}, {24}},
+        {"number without country", "MOD", {sansPays}, {24}},
+        {"number of no department", "CRE", {{104, "97512345    "}}, {68}},
+        {"number of no department", "MOD", {{104, "97512345    "}}, {68}},
+        {"number of another country", "CRE", {{102, "BE"}, {104, "97512345    "}}, {}},
+        // J: one year more, and any holding.
+        {"J: one year more, any holding, any receipt", "CRE", {{79, "15032025"}, {87, "J"}, {90, NUMERO}, {185, "10022024"}}, {}},
+        {"J: more than a year", "CRE", {{79, "16032025"}, {87, "J"}}, {52}},
+        {"receipt before the entry", "CRE", {{79, "02022024"}, {185, "01022024"}}, {137}},
+        {"J: receipt before the entry", "CRE", {{79, "02022024"}, {87, "J"}, {185, "01022024"}}, {}},
+        // The limit of L is the first day of 1999.
+        {"last day of L", "CRE", {{79, "01011999"}, {87, "L"}}, {}},
+        {"L has ended", "CRE", {{79, "02011999"}, {87, "L"}}, {23}},
+        // A creation does not look at the second date.
+        {"second date of a creation", "CRE", {{176, "XXXXXXXX"}}, {}},
+        {"second date without its day, before P6", "MOD", {{176, "  061999"}}, {}},
+        {"second date read as 1999-07-00", "INV", {{176, "  071999"}}, {}},
+        {"second date without its day", "INV", {{176, "  081999"}}, {58}},
+        // Column 184 is free; the receipt date may be blank.
+        {"column 184", "CRE", {{184, "X"}}, {}},
+        {"blank receipt", "CRE", {{185, SANS_DATE}}, {}},
+        {"receipt one column early", "CRE", {{184, "10022024 "}}, {134, 137}},
+        {"receipt of a modification", "MOD", {{185, "XXXXXXXX"}}, {}},
+    });
+    // clang-format on
+}
