@@ -5,7 +5,10 @@
 #ifndef QUILVANE_TESTS_SUPPORT_MODELES_H
 #define QUILVANE_TESTS_SUPPORT_MODELES_H
 
+#include <gtest/gtest.h>
+
 #include <cstdio>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -146,6 +149,29 @@ inline std::string fichErreur(const std::string& fichRecue, int enErreur, int me
                             {125, "1"},
                             {126, blancs(105)},
                             {231, estampille}});
+}
+
+/** Runs the program on `entree`, given as "recu", and compares its status and
+ *  all that it leaves in the folder. */
+inline void verifierPassage(const std::string& nom, const std::string& entree, int statut,
+                            const std::map<std::string, std::string>& laisse) {
+    const dossier d;
+    d.ecrire("recu", entree);
+    const resultat r = lancer(d, {"recu", "emis", "log"});
+    EXPECT_EQ(r.statut, statut) << nom;
+    EXPECT_EQ(r.sortie + r.erreur, "") << nom;
+    EXPECT_EQ(d.contenu(), laisse) << nom;
+}
+
+/** A run that publishes these records: status 0 or 2, the log empty. */
+inline void verifierPublie(const std::string& nom, const std::string& entree, int statut,
+                           const std::vector<std::string>& publies, std::string_view finDeLigne = "\n") {
+    verifierPassage(nom, entree, statut, {{"emis", fichier(publies, finDeLigne)}, {"log", ""}});
+}
+
+/** A run that ends on a fatal condition and gives the input back. */
+inline void verifierAnnule(const std::string& nom, const std::string& entree, const std::string& message) {
+    verifierPassage(nom, entree, 1, {{"recu", entree}, {"log", DEBUT_LOG + latin1(message) + "\n"}});
 }
 
 }  // namespace essai
