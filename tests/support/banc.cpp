@@ -112,7 +112,7 @@ resultat lancerProgramme(const std::string& programme, const dossier& d,
     for (const char* garde : {"ASAN_OPTIONS", "UBSAN_OPTIONS", "LSAN_OPTIONS", "GCOV_PREFIX"})
         if (const char* const v = std::getenv(garde)) milieu.push_back(std::string(garde) + "=" + v);
     for (const auto& [nom, valeur] : o.milieu) {
-        std::erase_if(milieu, [&](const std::string& m) { return m.starts_with(nom + "="); });
+        std::erase_if(milieu, [debut = nom + "="](const std::string& m) { return m.starts_with(debut); });
         milieu.push_back(nom + "=" + valeur);
     }
 
