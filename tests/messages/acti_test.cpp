@@ -1,19 +1,69 @@
-#include <gtest/gtest.h>
-
-#include "support/lignes.h"
+#include "messages/cas.h"
 
 using namespace essai;
+
+namespace {
+
+const std::string BLANCS8(8, ' ');
+const std::string BLANCS12(12, ' ');
+
+/** A closing date is asked for on inventory and modification only. */
+std::string modele(const std::string& genre) {
+    std::string r = acti();
+    poser(r, 19, genre);
+    if (genre != "CRE") poser(r, 88, "01032024");
+    return r;
+}
+
+}  // namespace
 
 TEST(Acti, TouteLignePasseEtEchoue) {
     prouverLignes({
         .type = "ACTI",
         .genres = "CRE INV MOD",
-        .modele =
-            [](const std::string& genre) {
-                std::string r = acti();
-                poser(r, 19, genre);
-                return r;
+        .modele = modele,
+        .cas =
+            {
+                {0, "CRE INV MOD", {{63, "BE"}}, {31}},
+                {1,
+                 "CRE INV MOD",
+                 {{65, BLANCS12}},
+                 {31, 68, 50},
+                 "a blank number has neither form nor department"},
+                {2, "CRE INV MOD", {{65, "7812345     "}}, {68}},
+                {3, "CRE INV MOD", {{65, "77123456    "}}, {50}},
+                {5, "CRE INV MOD", {{79, "2"}}, {81}},
+                {6, "CRE MOD", {{80, "31022024"}}, {36}},
+                {7, "CRE MOD", {{80, "16032024"}}, {52}},
+                {8, "INV MOD", {{88, "31022024"}}, {29}},
+                {9, "INV MOD", {{88, "16032024"}}, {52}},
+                {10, "CRE INV MOD", {{96, "X"}}, {131}},
             },
-        .cas = {},
     });
+}
+
+TEST(Acti, Enregistrements) {
+    prouverVSE(modele,
+               {
+                   {"opening on the record's day", "CRE", {{80, "15032024"}}, {}},
+                   {"opening date not read", "INV", {{80, "????????"}}, {}},
+                   {"closing date not read", "CRE", {{88, "????????"}}, {}},
+                   {"closing day unknown", "MOD", {{88, "  032024"}}, {}},
+                   {"closing day and month unknown", "INV", {{88, "    2024"}}, {}},
+                   {"closing month in the future, day unknown", "INV", {{88, "  042024"}}, {52}},
+                   {"closing day written as zeros", "INV", {{88, "00032024"}}, {29}},
+                   {"opening day unknown", "CRE", {{80, "  022024"}}, {36}},
+                   {"opening date blank", "MOD", {{80, BLANCS8}}, {36}},
+                   {"closing date blank", "MOD", {{88, BLANCS8}}, {29}},
+                   {"fields that no rule reads", "CRE", {{77, "??"}, {97, std::string(134, '?')}}, {}},
+               });
+}
+
+TEST(Acti, Productions) {
+    for (const char c : std::string("ABCDEFGHIJKLMNOPQRSTUVWXYZ 0b")) {
+        std::string r = modele("CRE");
+        poser(r, 96, std::string(1, c));
+        const bool connue = std::string("BCNOPV").find(c) != std::string::npos;
+        EXPECT_EQ(codesDe(r), connue ? std::vector<int>{} : std::vector<int>{131}) << c;
+    }
 }

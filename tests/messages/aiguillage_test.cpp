@@ -1,1 +1,240 @@
+#include "messages/aiguillage.h"
+
 #include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+#include <vector>
+
+#include "driver/etat.h"
+#include "driver/flux.h"
+#include "driver/traitement.h"
+#include "messages/messages.h"
+#include "rules/entete.h"
+#include "support/champ.h"
+#include "support/lignes.h"
+
+using namespace quilvane;
+using namespace essai;
+
+namespace {
+
+struct routeAttendue {
+    const char* type;
+    const sCorps* table;
+    int lignes;
+    unsigned code;
+    unsigned champErrC7;
+    unsigned champErrC8;
+    const char* genres;  // transaction kinds that the header allows
+};
+
+constexpr unsigned SANS = 100;  // no field
+// clang-format off
+const std::vector<routeAttendue> ROUTES = {
+    {"ABAT", tAbat,   25,  0, SANS, SANS, "CRE INV MOD"},
+    {"ACTI", tActi,   12,  1,    0,    1, "CRE INV MOD"},
+    {"ASSO", tAsso,   23,  2,    0,    1, "CRE INV MOD"},
+    {"DETE", tDete,   17,  4,    0,    1, "CRE DEM INV MOD"},
+    {"DETI", tDeti,   10,  5,    0,    1, "CRE INV MOD"},
+    {"ECBO", tEcbo,   20,  6, SANS, SANS, "CRE INV"},
+    {"ECHA", tEcha,   36,  7,   17,   18, "CRE INV MOD"},
+    {"EGET", tEget,   11,  8, SANS, SANS, "CRE INV MOD"},
+    {"ENTR", tEntr,   30,  9,    5,    6, "CRE INV MOD"},
+    {"ERRE", tErre,   28, 11, SANS, SANS, ""},
+    {"ERTI", tErti,   18, 10, SANS, SANS, "CRE INV MOD"},
+    {"EXP1", tExp1,   15, 12,    0,    1, "CRE INV MOD"},
+    {"EXP2", tExp2,   23, 13,    0,    1, "CRE INV MOD"},
+    {"GROC", tGroc,   26, 15,    3,    4, "CRE DEM"},
+    {"IMOC", tImoc,   13, 16,    3,    4, "CRE INV"},
+    {"IMPO", tImpo,   36, 17,   17,   18, "CRE INV MOD"},
+    {"INFO", tInfo,    7, 18, SANS, SANS, "DEM"},
+    {"JALO", tJalo,   17, 19,    3,    4, "CRE"},
+    {"NAIS", tNais,   50, 21,   15,   16, "CRE DEM INV MOD"},
+    {"NUMA", tNuma,   26, 22,    0,    1, "CRE MOD"},
+    {"NVMN", tNvmn,   31, 23,   15,   16, "CRE INV MOD"},
+    {"PASS", tPass,   20, 24,    3,    4, "DEM INV EDI"},
+    {"PICO", tPico,   23, 25,    0,    1, "CRE"},
+    {"RACO", tRaco,   13, 26,    0,    1, "CRE INV MOD"},
+    {"RATA", tRata,   17, 27, SANS, SANS, "CRE MOD"},
+    {"REBO", tRebo,   22, 28,    4,    5, "CRE INV MOD"},
+    {"SORT", tSort,   29, 29,    5,    6, "CRE INV MOD"},
+    {"ZZZZ", nullptr,  0, 0xFFFFFFFFU, SANS, SANS, ""},
+};
+// clang-format on
+
+bool contient(const std::vector<int>& codes, int code) {
+    return std::find(codes.begin(), codes.end(), code) != codes.end();
+}
+
+}  // namespace
+
+TEST(Aiguillage, ChaqueLigne) {
+    EXPECT_EQ(LEN_AIGUILLAGE, 28);
+    EXPECT_EQ(ERR_AIGUILLAGE, 27);
+    ASSERT_EQ(ROUTES.size(), static_cast<std::size_t>(LEN_AIGUILLAGE));
+    for (std::size_t i = 0; i < ROUTES.size(); ++i) {
+        const routeAttendue& attendue = ROUTES[i];
+        const sAiguillage& route = tAiguillage[i];
+        SCOPED_TRACE(attendue.type);
+        EXPECT_STREQ(route.nomVSE, attendue.type);
+        EXPECT_EQ(route.tabVerif, attendue.table);
+        if (attendue.table != nullptr) {
+            ASSERT_NE(route.pLenTabVerif, nullptr);
+            EXPECT_EQ(*route.pLenTabVerif, attendue.lignes);
+        } else {
+            EXPECT_EQ(route.pLenTabVerif, nullptr);
+        }
+        EXPECT_EQ(static_cast<unsigned>(route.code), attendue.code);
+        EXPECT_EQ(static_cast<unsigned>(route.champErrC7), attendue.champErrC7);
+        EXPECT_EQ(static_cast<unsigned>(route.champErrC8), attendue.champErrC8);
+    }
+}
+
+TEST(Aiguillage, CodesDesTypes) {
+    const std::vector<std::pair<codeVSE, unsigned>> CODES = {
+        {ABAT, 0},  {ACTI, 1},  {ASSO, 2},  {AVER, 3},  {DETE, 4},  {DETI, 5},  {ECBO, 6},  {ECHA, 7},
+        {EGET, 8},  {ENTR, 9},  {ERTI, 10}, {ERRE, 11}, {EXP1, 12}, {EXP2, 13}, {FICH, 14}, {GROC, 15},
+        {IMOC, 16}, {IMPO, 17}, {INFO, 18}, {JALO, 19}, {LIST, 20}, {NAIS, 21}, {NUMA, 22}, {NVMN, 23},
+        {PASS, 24}, {PICO, 25}, {RACO, 26}, {RATA, 27}, {REBO, 28}, {SORT, 29},
+    };
+    for (const auto& [code, valeur] : CODES)
+        EXPECT_EQ(static_cast<unsigned>(code), valeur);
+    EXPECT_EQ(static_cast<int>(CODE_INCONNU), -1);
+}
+
+TEST(Aiguillage, NumerosDesChamps) {
+    EXPECT_EQ(static_cast<unsigned>(C1), 0U);
+    EXPECT_EQ(static_cast<unsigned>(C50), 49U);
+    EXPECT_EQ(static_cast<unsigned>(C100), 99U);
+    EXPECT_EQ(static_cast<unsigned>(CINC), 100U);
+}
+
+TEST(Aiguillage, ChaqueTypeTrouveSaLigne) {
+    for (std::size_t i = 0; i < ROUTES.size(); ++i)
+        EXPECT_EQ(aiguiller(ROUTES[i].type), static_cast<int>(i));
+    EXPECT_EQ(aiguiller("ENTR"), 8);
+    EXPECT_EQ(aiguiller("ERRE"), 9);
+    EXPECT_EQ(aiguiller("ERTI"), 10);
+}
+
+TEST(Aiguillage, ToutAutreTexteFinitSurLaDerniereLigne) {
+    for (const char* type :
+         {"AVER", "LIST", "FICH", "entr", "Entr", "ENT", "ENTR ", " ENTR", "ENTRE", "", "    ", "ZZZ"})
+        EXPECT_EQ(aiguiller(type), 27) << "'" << type << "'";
+}
+
+TEST(Aiguillage, LEnteteAdmetLesGenresDuType) {
+    for (const routeAttendue& r : ROUTES) {
+        for (const char* genre : {"CRE", "DEM", "INV", "EDI", "MOD", "INF"}) {
+            const bool permis = std::string(r.genres).find(genre) != std::string::npos;
+            EXPECT_EQ(accepte(fVerifDepE6, genre, r.type), permis) << r.type << " " << genre;
+        }
+        EXPECT_TRUE(accepte(fVerifDepE6, "ECQ", r.type)) << r.type;
+    }
+    EXPECT_TRUE(accepte(fVerifDepE6, "INF", "FICH"));
+}
+
+TEST(Aiguillage, UnTypeInconnuNEstPasVerifie) {
+    // The body and the footer of such a record draw no error: only the header does.
+    for (const char* type : {"AVER", "LIST", "ZZZZ", "acti"}) {
+        std::string record = acti();
+        poser(record, 22, type);
+        poser(record, 63, "??");
+        poser(record, 256, "#");
+        EXPECT_EQ(codesDe(record), (std::vector<int>{85, 86})) << type;
+    }
+    std::string record = acti();
+    poser(record, 22, "FICH");
+    poser(record, 19, "INF");
+    poser(record, 256, "#");
+    EXPECT_EQ(codesDe(record), std::vector<int>{109});
+}
+
+TEST(Aiguillage, UnGenreRefuseDonne86DeLEnteteEtDeChaqueLigne) {
+    struct cas {
+        const char* type;
+        const char* genre;
+        std::size_t lignes;  // rows with a check
+    };
+    // Above nine rows the tenth error ends the record.
+    for (const cas& c : {cas{"DETI", "DEM", 8}, cas{"ACTI", "EDI", 10}, cas{"IMOC", "MOD", 11},
+                         cas{"INFO", "CRE", 5}, cas{"RATA", "DEM", 15}, cas{"JALO", "INV", 15}}) {
+        std::vector<int> codes = codesDe(vse(c.type, c.genre));
+        EXPECT_EQ(codes, std::vector<int>(std::min<std::size_t>(c.lignes + 1, 10), 86))
+            << c.type << " " << c.genre;
+    }
+    // The rows of this type skip the kind: the header alone refuses it.
+    EXPECT_EQ(codesDe(vse("RATA", "INV")), std::vector<int>{86});
+}
+
+TEST(Aiguillage, UneEnqueteEstVerifieeCommeUneCreation) {
+    std::string record = acti();
+    poser(record, 19, "ECQ");
+    EXPECT_EQ(codesDe(record), std::vector<int>{});
+    poser(record, 79, "2");
+    EXPECT_EQ(codesDe(record), std::vector<int>{81});
+    // A type without creation: every row with a check refuses the kind.
+    EXPECT_EQ(codesDe(vse("INFO", "ECQ")), std::vector<int>(5, 86));
+    EXPECT_FALSE(contient(codesDe(vse("NAIS", "ECQ")), 86));
+}
+
+namespace {
+
+/** The error record that `record` draws, without the line end in front. */
+std::string enregistrementEnErreur(const std::string& record) {
+    codesDe(record);  // opens a run: the FICH record is kept
+    char* texte = nullptr;
+    std::size_t longueur = 0;
+    fp_erre = open_memstream(&texte, &longueur);
+    fp_emis = std::fopen("/dev/null", "w");
+    EXPECT_GT(traitement(record.c_str(), 0, 3, CVERSE_UNIX), 0);
+    std::fclose(fp_emis);
+    std::fclose(fp_erre);
+    fp_emis = fp_erre = nullptr;
+    const std::string r(texte, longueur);
+    std::free(texte);
+    return r.substr(1);
+}
+
+/** A body in which no two columns of a type look alike. */
+std::string corpsBariole() {
+    std::string corps;
+    for (int col = 63; col <= 230; ++col)
+        corps += static_cast<char>('!' + col * 7 % 90);
+    return corps;
+}
+
+}  // namespace
+
+TEST(Aiguillage, LErreurNommeLExploitationConcernee) {
+    struct cas {
+        const char* type;
+        const char* genre;
+        int pays;    // first column, 0 for none
+        int numero;  // first column, 0 for none
+    };
+    const std::string corps = corpsBariole();
+    for (const cas& c : {
+             cas{"ABAT", "CRE", 0, 0},     cas{"ACTI", "CRE", 63, 65},   cas{"ASSO", "CRE", 63, 65},
+             cas{"DETE", "CRE", 63, 65},   cas{"DETI", "CRE", 63, 65},   cas{"ECBO", "CRE", 0, 0},
+             cas{"ECHA", "CRE", 151, 153}, cas{"EGET", "CRE", 0, 0},     cas{"ENTR", "CRE", 88, 90},
+             cas{"ERTI", "CRE", 0, 0},     cas{"EXP1", "CRE", 63, 65},   cas{"EXP2", "CRE", 63, 65},
+             cas{"GROC", "CRE", 79, 81},   cas{"IMOC", "CRE", 79, 81},   cas{"IMPO", "CRE", 151, 153},
+             cas{"INFO", "DEM", 0, 0},     cas{"JALO", "CRE", 79, 81},   cas{"NAIS", "CRE", 137, 139},
+             cas{"NUMA", "CRE", 63, 65},   cas{"NVMN", "CRE", 137, 139}, cas{"PASS", "INV", 79, 81},
+             cas{"PICO", "CRE", 63, 65},   cas{"RACO", "CRE", 63, 65},   cas{"RATA", "CRE", 0, 0},
+             cas{"REBO", "CRE", 87, 89},   cas{"SORT", "CRE", 88, 90},   cas{"ERRE", "ECQ", 0, 0},
+             cas{"AVER", "CRE", 0, 0},
+         }) {
+        const std::string erreur = enregistrementEnErreur(vse(c.type, c.genre, {{63, corps}}));
+        const auto colonnes = [&](int col, std::size_t n) {
+            return col == 0 ? std::string(n, ' ') : corps.substr(static_cast<std::size_t>(col - 63), n);
+        };
+        ASSERT_EQ(erreur.size(), 256U) << c.type;
+        EXPECT_EQ(erreur.substr(97, 2), colonnes(c.pays, 2)) << c.type;
+        EXPECT_EQ(erreur.substr(99, 12), colonnes(c.numero, 12)) << c.type;
+    }
+}

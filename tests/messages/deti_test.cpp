@@ -1,1 +1,46 @@
-#include <gtest/gtest.h>
+#include "messages/cas.h"
+
+using namespace essai;
+
+namespace {
+
+const std::string BLANCS12(12, ' ');
+
+std::string modele(const std::string& genre) {
+    return vse("DETI", genre,
+               {{63, "FR"}, {65, "078123456789"}, {79, "1"}, {80, "01022024"}, {88, "01032024"}});
+}
+
+}  // namespace
+
+TEST(Deti, TouteLignePasseEtEchoue) {
+    prouverLignes({
+        .type = "DETI",
+        .genres = "CRE INV MOD",
+        .modele = modele,
+        .cas =
+            {
+                {0, "CRE INV MOD", {{63, "BE"}}, {30}},
+                {1, "CRE INV MOD", {{65, BLANCS12}}, {30, 50}, "a blank number has no department"},
+                {2, "CRE INV MOD", {{65, "975123456789"}}, {50}},
+                {4, "CRE INV MOD", {{79, "2"}}, {81}},
+                {5, "CRE MOD", {{80, "00022024"}}, {42}},
+                {6, "CRE MOD", {{80, "16032024"}}, {52}},
+                {7, "INV MOD", {{88, "00022024"}}, {29}},
+                {8, "INV MOD", {{88, "16032024"}}, {52}},
+            },
+    });
+}
+
+TEST(Deti, Enregistrements) {
+    prouverVSE(modele,
+               {
+                   {"any listed department", "CRE", {{65, "02A         "}}, {}},
+                   {"opening date not read", "INV", {{80, "????????"}}, {}},
+                   {"closing date not read", "CRE", {{88, "????????"}}, {}},
+                   {"closing day unknown", "INV", {{88, "  032024"}}, {}},
+                   {"opening day unknown", "CRE", {{80, "  032024"}}, {42}},
+                   {"end of activity", "MOD", {{79, "0"}}, {}},
+                   {"fields that no rule reads", "MOD", {{77, "??"}, {96, std::string(135, '?')}}, {}},
+               });
+}

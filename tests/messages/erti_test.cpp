@@ -1,1 +1,134 @@
-#include <gtest/gtest.h>
+#include "checks/utils.h"
+#include "messages/cas.h"
+#include "messages/messages.h"
+
+using namespace essai;
+using namespace quilvane;
+
+namespace {
+
+const std::string BLANCS8(8, ' ');
+const std::string BLANCS12(12, ' ');
+
+/** The opening date may not be modified, and a modification must leave it blank. */
+std::string modele(const std::string& genre) {
+    std::string r =
+        vse("ERTI", genre, {{63, "FR"}, {65, "78A12       "}, {79, "P"}, {81, "01022024"}, {97, "01032024"}});
+    if (genre == "MOD") poser(r, 81, BLANCS8);
+    return r;
+}
+
+}  // namespace
+
+TEST(Erti, TouteLignePasseEtEchoue) {
+    prouverLignes({
+        .type = "ERTI",
+        .genres = "CRE INV MOD",
+        .modele = modele,
+        .cas =
+            {
+                {0, "CRE INV MOD", {{63, "BE"}}, {139}},
+                {1,
+                 "CRE INV MOD",
+                 {{65, BLANCS12}},
+                 {139, 140, 50},
+                 "a blank code has neither form nor department"},
+                {2, "CRE INV MOD", {{65, "78A1        "}}, {140}},
+                {3, "CRE INV MOD", {{65, "77A12       "}}, {50}},
+                {5,
+                 "CRE INV MOD",
+                 {{79, "X"}},
+                 {140, 50, 131},
+                 "the code's form and its department go by the kind of production"},
+                {6, "CRE INV MOD", {{80, "D"}}, {131}},
+                {7, "CRE", {{81, "31022024"}}, {144}},
+                {8, "CRE", {{81, "16032024"}}, {52}},
+                {9, "MOD", {{81, "01022024"}}, {192}},
+                {10, "CRE MOD", {{89, "31022024"}}, {145}},
+                {11, "CRE", {{89, "31012024"}}, {149}},
+                {11,
+                 "MOD",
+                 {{81, "01022024"}, {89, "31012024"}},
+                 {192, 149},
+                 "nothing comes before a blank opening date, which alone may stand on modification"},
+                {12, "CRE MOD", {{89, "16032024"}}, {52}},
+                {13, "INV MOD", {{97, "31022024"}}, {144}},
+                {14, "INV MOD", {{97, "16032024"}}, {52}},
+                {15, "CRE MOD", {{105, "OEUF"}}, {146}},
+                {16, "CRE MOD", {{109, "1   "}}, {147}},
+            },
+    });
+}
+
+TEST(Erti, Enregistrements) {
+    // Productions belong to sites of kind "V", whose codes begin with a series.
+    const pose SERIE = {65, "IGA12       "};
+    const pose V = {79, "V"};
+    prouverVSE(modele,
+               {
+                   {"kind P, no production", "CRE", {{80, " "}}, {}},
+                   {"kind P with a production", "CRE", {{80, "D"}}, {131}},
+                   {"kind V with a production", "CRE", {SERIE, V, {80, "D"}}, {}},
+                   {"kind V, no production", "CRE", {SERIE, V, {80, " "}}, {131}},
+                   {"kind V, production not listed", "CRE", {SERIE, V, {80, "I"}}, {131}},
+                   {"eggs", "CRE", {SERIE, V, {80, "M"}, {105, "OEUF"}, {109, "0   "}}, {}},
+                   {"eggs without a branch", "CRE", {SERIE, V, {80, "M"}, {109, "0   "}}, {146}},
+                   {"eggs without a breeding", "CRE", {SERIE, V, {80, "M"}, {105, "OEUF"}}, {147}},
+                   {"another branch", "CRE", {SERIE, V, {80, "M"}, {105, "LAIT"}, {109, "0   "}}, {146}},
+                   {"breeding not listed", "CRE", {SERIE, V, {80, "M"}, {105, "OEUF"}, {109, "4   "}}, {147}},
+                   {"branch of another production", "CRE", {SERIE, V, {80, "D"}, {105, "OEUF"}}, {146}},
+                   {"breeding of another production", "CRE", {SERIE, V, {80, "D"}, {109, "0   "}}, {147}},
+                   {"inventory reads neither", "INV", {{105, "????????"}}, {}},
+                   {"inventory reads no dates but the last", "INV", {{81, "????????????????"}}, {}},
+                   {"second date of the first's day", "CRE", {{89, "01022024"}}, {}},
+                   {"second date of the record's day", "CRE", {{89, "15032024"}}, {}},
+                   {"second date of the record's day", "MOD", {{89, "15032024"}}, {}},
+                   {"creation does not read the last date", "CRE", {{97, "????????"}}, {}},
+               });
+}
+
+TEST(Erti, ProductionSelonLeGenre) {
+    for (const char c : std::string("ABCDEFGHIJKLMNOPQRSTUVWXYZ 1d")) {
+        const std::string champ(1, c);
+        const bool listee = std::string("DEFGHJKLM").find(c) != std::string::npos;
+        EXPECT_EQ(accepte(erti_fC5, "V", champ, PROD_EV, LenPROD_EV), listee) << champ;
+        for (const char* genre : {"P", "v", " ", "", "V "})
+            EXPECT_EQ(accepte(erti_fC5, genre, champ, PROD_EV, LenPROD_EV), c == ' ')
+                << genre << " " << champ;
+    }
+    // Exactly one blank.
+    EXPECT_FALSE(accepte(erti_fC5, "P", "", PROD_EV, LenPROD_EV));
+    EXPECT_FALSE(accepte(erti_fC5, "P", "  ", PROD_EV, LenPROD_EV));
+    EXPECT_FALSE(accepte(erti_fC5, "V", "", PROD_EV, LenPROD_EV));
+    EXPECT_FALSE(accepte(erti_fC5, "V", "DE", PROD_EV, LenPROD_EV));
+    EXPECT_FALSE(accepte(erti_fC5, "V", "M", PROD_EV, LenPROD_EV - 1));
+    // A list test: the codes of the national bodies belong to every list.
+    EXPECT_TRUE(accepte(erti_fC5, "V", "NORMABEV", PROD_EV, LenPROD_EV));
+    EXPECT_FALSE(accepte(erti_fC5, "P", "NORMABEV", PROD_EV, LenPROD_EV));
+}
+
+TEST(Erti, FiliereEtElevage) {
+    struct cas {
+        const char* production;
+        const char* champ;
+        bool filiere;
+        bool elevage;
+    };
+    for (const cas& c : {
+             cas{"M", "OEUF", true, false},    cas{"M", "0   ", false, true},
+             cas{"M", "3   ", false, true},    cas{"M", "4   ", false, false},
+             cas{"M", "0", false, false},      cas{"M", "OEU", false, false},
+             cas{"M", "    ", false, false},   cas{"M", "", false, false},
+             cas{"D", "    ", true, true},     cas{"D", "OEUF", false, false},
+             cas{"D", "0   ", false, false},   cas{"D", "   ", false, false},
+             cas{"D", "     ", false, false},  cas{"D", "", false, false},
+             cas{" ", "    ", true, true},     cas{"", "    ", true, true},
+             cas{"m", "OEUF", false, false},   cas{"M ", "    ", true, true},
+             cas{"M", "NORMABEV", true, true}, cas{"D", "NORMABEV", false, false},
+         }) {
+        EXPECT_EQ(accepte(erti_fC9C10, c.production, c.champ, FIL_V, LenFIL_V), c.filiere)
+            << "'" << c.production << "' '" << c.champ << "'";
+        EXPECT_EQ(accepte(erti_fC9C10, c.production, c.champ, ELV_V, LenELV_V), c.elevage)
+            << "'" << c.production << "' '" << c.champ << "'";
+    }
+}

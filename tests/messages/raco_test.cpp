@@ -1,1 +1,102 @@
-#include <gtest/gtest.h>
+#include "checks/utils.h"
+#include "messages/cas.h"
+#include "messages/messages.h"
+
+using namespace essai;
+using namespace quilvane;
+
+namespace {
+
+const std::string BLANCS8(8, ' ');
+const std::string BLANCS12(12, ' ');
+
+std::string modele(const std::string& genre) {
+    return vse(
+        "RACO", genre,
+        {{63, "FR"}, {65, "78123456    "}, {79, "2023"}, {83, "EFOLAN"}, {89, "000120"}, {95, "01022024"}});
+}
+
+}  // namespace
+
+TEST(Raco, TouteLignePasseEtEchoue) {
+    prouverLignes({
+        .type = "RACO",
+        .genres = "CRE INV MOD",
+        .modele = modele,
+        .cas =
+            {
+                {0, "CRE INV MOD", {{63, "BE"}}, {27}},
+                {1,
+                 "CRE INV MOD",
+                 {{65, BLANCS12}},
+                 {27, 68, 50},
+                 "a blank number has neither form nor department"},
+                {2, "CRE INV MOD", {{65, "7812345     "}}, {68}},
+                {3, "CRE INV MOD", {{65, "77123456    "}}, {50}},
+                {5, "CRE INV MOD", {{79, "202 "}}, {167}},
+                {6, "CRE INV MOD", {{79, "2024"}, {95, BLANCS8}}, {168}},
+                {7, "CRE INV MOD", {{83, "EFOLAX"}}, {169}},
+                {8, "CRE MOD", {{89, "12 456"}}, {170}},
+                {9, "CRE", {{95, "31022024"}}, {134}},
+                {10, "CRE", {{95, "16032024"}}, {52}},
+                {11, "CRE", {{95, "31122023"}}, {137}},
+            },
+    });
+}
+
+TEST(Raco, Enregistrements) {
+    prouverVSE(
+        modele,
+        {
+            {"no receipt date", "CRE", {{95, BLANCS8}}, {}},
+            {"count with a blank in front", "CRE", {{89, " 00120"}}, {170}},
+            {"blank count", "MOD", {{89, "      "}}, {170}},
+            {"inventory does not read the count", "INV", {{89, "12 456"}}, {}},
+            {"modification does not read the receipt date", "MOD", {{95, "????????"}}, {}},
+            {"census of this year, receipt not after it", "CRE", {{79, "2024"}}, {168, 137}},
+            {"a year that is no number and sorts behind every year", "CRE", {{79, "20X3"}}, {167, 168, 137}},
+            {"blank year", "INV", {{79, "    "}}, {167}},
+            {"fields that no rule reads", "CRE", {{77, "??"}, {103, std::string(128, '?')}}, {}},
+        });
+}
+
+TEST(Raco, Categories) {
+    for (const char* c : {"EFOLAN", "EFOVAN", "REOLAN", "REOVAN", "EFOEAP", "EFCAAN", "RECAAN", "EFCVAN",
+                          "RECVAN", "EFCEAP"}) {
+        std::string r = modele("CRE");
+        poser(r, 83, c);
+        EXPECT_EQ(codesDe(r), std::vector<int>{}) << c;
+    }
+    for (const char* c : {"EFOVAP", "      ", "efolan", "RECEAP"}) {
+        std::string r = modele("CRE");
+        poser(r, 83, c);
+        EXPECT_EQ(codesDe(r), std::vector<int>{169}) << c;
+    }
+}
+
+TEST(Raco, SixChiffres) {
+    prouverChamps(raco_fC6, "",
+                  {
+                      {"000000", true},
+                      {"000120", true},
+                      {"999999", true},
+                      {"12 456", false},
+                      {" 23456", false},
+                      {"12345 ", false},
+                      {"      ", false},
+                      {"12345A", false},
+                      {"-12345", false},
+                      {"+12345", false},
+                      {"12345", false},
+                      {"1", false},
+                      {"", false},
+                  });
+    // Every place counts.
+    for (std::size_t i = 0; i < 6; ++i) {
+        for (const char c : {' ', '/', ':', 'O'}) {
+            std::string champ = "123456";
+            champ[i] = c;
+            EXPECT_FALSE(accepte(raco_fC6, "", champ)) << champ;
+        }
+    }
+}

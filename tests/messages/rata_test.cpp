@@ -1,1 +1,67 @@
-#include <gtest/gtest.h>
+#include "messages/cas.h"
+
+using namespace essai;
+
+namespace {
+
+const std::string BLANCS12(12, ' ');
+
+std::string modele(const std::string& genre) {
+    return vse("RATA", genre,
+               {{63, "FR"},
+                {65, "78A12       "},
+                {79, "P"},
+                {80, "FR"},
+                {82, "78123456    "},
+                {94, "FR"},
+                {96, "77123456    "},
+                {108, "01022024"},
+                {116, "01032024"}});
+}
+
+}  // namespace
+
+TEST(Rata, TouteLignePasseEtEchoue) {
+    prouverLignes({
+        .type = "RATA",
+        .genres = "CRE MOD",
+        .modele = modele,
+        .cas =
+            {
+                {0, "CRE MOD", {{63, "BE"}}, {139}},
+                {1,
+                 "CRE MOD",
+                 {{65, BLANCS12}},
+                 {139, 140, 50},
+                 "a blank code has neither form nor department"},
+                {2, "CRE MOD", {{65, "78A12 1     "}}, {140}},
+                {3, "CRE MOD", {{65, "77A12       "}}, {50}},
+                {5,
+                 "CRE MOD",
+                 {{79, "X"}},
+                 {140, 50, 131},
+                 "the code's form and its department go by the kind of production"},
+                {6, "CRE MOD", {{80, "BE"}}, {31}},
+                {7, "CRE MOD", {{82, BLANCS12}}, {31, 68}, "a blank number has no form"},
+                {8, "CRE MOD", {{82, "7812345     "}}, {68}},
+                {9, "MOD", {{94, "BE"}}, {31}},
+                {10, "MOD", {{96, BLANCS12}}, {31, 68}, "a blank number has no form"},
+                {11, "MOD", {{96, "7712345     "}}, {68}},
+                {12, "CRE MOD", {{108, "31022024"}}, {148}},
+                {13, "CRE MOD", {{108, "16032024"}}, {52}},
+                {14, "MOD", {{116, "31022024"}}, {148}},
+                {15, "MOD", {{116, "16032024"}}, {52}},
+            },
+    });
+}
+
+TEST(Rata, Enregistrements) {
+    prouverVSE(modele,
+               {
+                   {"holding of any department", "CRE", {{82, "35123456    "}}, {}},
+                   {"the second holding is not read", "CRE", {{94, std::string(14, '?')}}, {}},
+                   {"the second date is not read", "CRE", {{116, "????????"}}, {}},
+                   {"series of the body", "MOD", {{65, "LKB34       "}, {79, "V"}}, {}},
+                   {"inventory: the header alone refuses it", "INV", {{63, std::string(168, '?')}}, {86}},
+               });
+}
