@@ -199,9 +199,9 @@ int fDATECouI(char* champ, eCouI mode) {
         }
     }
     if (!chiffres(champ, 1, 8)) return 0;
-    auto jour = static_cast<std::int32_t>(nombre(champ, 1, 2));
-    auto mois = static_cast<std::int32_t>(nombre(champ, 3, 2));
-    const auto annee = static_cast<std::int32_t>(nombre(champ, 5, 4));
+    int jour = deuxChiffres(champ);
+    int mois = deuxChiffres(champ + 2);
+    const int annee = 100 * deuxChiffres(champ + 4) + deuxChiffres(champ + 6);
     if (mode == INCOMPLETE) {
         if (jour == 0) jour = 1;
         if (mois == 0) mois = 1;

@@ -100,8 +100,8 @@ int fVerifValAutDate(const char* dependance, char* champ, const void* sverif, in
 }
 
 int fHEUREC(const char*, char* champ, const void*, int) {
-    return chiffres(champ, 1, 6) && nombre(champ, 1, 2) < 24 && nombre(champ, 3, 2) < 60 &&
-           nombre(champ, 5, 2) < 60;
+    return chiffres(champ, 1, 6) && deuxChiffres(champ) < 24 && deuxChiffres(champ + 2) < 60 &&
+           deuxChiffres(champ + 4) < 60;
 }
 
 int fDATEHEUREC(const char* dependance, char* champ, const void* sverif, int lenSverif) {

@@ -112,10 +112,8 @@ int verifNumBovinFrOuImporte(const char* numero) {
 
 int verifDateCompleteEtCorrecte(const char* date) {
     if (std::strlen(date) != 8 || !chiffres(date, 1, 8)) return 0;
-    const auto jour = static_cast<std::int32_t>(nombre(date, 1, 2));
-    const auto mois = static_cast<std::int32_t>(nombre(date, 3, 2));
-    const auto annee = static_cast<std::int32_t>(nombre(date, 5, 4));
-    return annee >= 1900 && DateCalc_check_date(annee, mois, jour);
+    const int annee = 100 * deuxChiffres(date + 4) + deuxChiffres(date + 6);
+    return annee >= 1900 && DateCalc_check_date(annee, deuxChiffres(date + 2), deuxChiffres(date));
 }
 
 int fConformEget(const char*, char* champ, const void* sverif, int lenSverif) {

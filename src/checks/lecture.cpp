@@ -4,15 +4,15 @@ namespace quilvane {
 
 long long nombre(const char* texte, int col, int largeur) {
     constexpr long long PLAFOND = 100'000'000'000'000'000;  // 18 digits; one more and a sum of two still fit
-    const char* p = aPartirDe(texte, col);
-    const char* const bout = p + strnlen(p, static_cast<std::size_t>(largeur));
-    while (p < bout && (*p == ' ' || (*p >= '\t' && *p <= '\r')))
-        ++p;
+    const char* const p = aPartirDe(texte, col);
+    int n = 0;  // the terminator ends every loop before the width does
+    while (n < largeur && (p[n] == ' ' || (p[n] >= '\t' && p[n] <= '\r')))
+        ++n;
     bool negatif = false;
-    if (p < bout && (*p == '+' || *p == '-')) negatif = *p++ == '-';
+    if (n < largeur && (p[n] == '+' || p[n] == '-')) negatif = p[n++] == '-';
     long long valeur = 0;
-    for (; p < bout && estChiffre(*p); ++p) {
-        valeur = valeur * 10 + (*p - '0');
+    for (; n < largeur && estChiffre(p[n]); ++n) {
+        valeur = valeur * 10 + (p[n] - '0');
         if (valeur >= PLAFOND) {
             valeur = PLAFOND;
             break;

@@ -2,6 +2,8 @@
  * listes - membership of value lists, absence of blanks, emptiness, and the
  * form of foreign numbers: the checks that the other families are built of.
  */
+#include <algorithm>
+
 #include "checks/lecture.h"
 #include "checks/utils.h"
 
@@ -9,30 +11,43 @@ namespace quilvane {
 
 namespace {
 
-/** National emitters whose codes pass every list-membership test. */
-constexpr tValAutorise CODES_SPECIAUX[] = {"NORMABEV", "NORM01  ", "NORM02  ", "PFOC01  "};
+// National emitters whose codes pass every list-membership test.
+constexpr std::uint64_t NORMABEV = tValAutorise::cle("NORMABEV");
+constexpr std::uint64_t NORM01 = tValAutorise::cle("NORM01  ");
+constexpr std::uint64_t NORM02 = tValAutorise::cle("NORM02  ");
+constexpr std::uint64_t PFOC01 = tValAutorise::cle("PFOC01  ");
+
+/** Whether a text of first characters `cle` is one of them. */
+bool codeSpecial(const char* texte, std::uint64_t cle) {
+    const bool parmi = cle == NORMABEV || cle == NORM01 || cle == NORM02 || cle == PFOC01;
+    return parmi && texte[8] == '\0';
+}
+
+/** Membership of a text whose first characters are `cle`. */
+int chercher(const char* texte, std::uint64_t cle, const tValAutorise* liste, int nombreEntrees) {
+    const tValAutorise* const bout = liste + (nombreEntrees > 0 ? nombreEntrees : 0);
+    const auto memeCle = [cle](const tValAutorise& entree) { return entree.debut == cle; };
+    for (; (liste = std::find_if(liste, bout, memeCle)) != bout; ++liste)
+        if (egal(liste->valeur, texte)) return 1;
+    return 0;
+}
 
 }  // namespace
 
 int dansListeStricte(const char* texte, const tValAutorise* liste, int nombreEntrees) {
-    const std::uint64_t debut = tValAutorise::cle(texte);
-    for (int i = 0; i < nombreEntrees; ++i)
-        if (liste[i].debut == debut && egal(liste[i].valeur, texte)) return 1;
-    return 0;
+    return chercher(texte, tValAutorise::cle(texte), liste, nombreEntrees);
 }
 
 int dansListe(const char* texte, const tValAutorise* liste, int nombreEntrees) {
-    for (const tValAutorise& code : CODES_SPECIAUX)
-        if (egal(code.valeur, texte)) return 1;
-    return dansListeStricte(texte, liste, nombreEntrees);
+    const std::uint64_t cle = tValAutorise::cle(texte);
+    return codeSpecial(texte, cle) || chercher(texte, cle, liste, nombreEntrees);
 }
 
 int debutDansListe(const char* texte, const tValAutorise* liste, int nombreEntrees, int n) {
     const std::uint64_t masque = n >= 8 ? ~std::uint64_t{0} : (std::uint64_t{1} << (8 * n)) - 1;
     const std::uint64_t debut = tValAutorise::cle(texte) & masque;
-    for (int i = 0; i < nombreEntrees; ++i)
-        if ((liste[i].debut & masque) == debut) return 1;
-    return 0;
+    return std::any_of(liste, liste + (nombreEntrees > 0 ? nombreEntrees : 0),
+                       [=](const tValAutorise& entree) { return (entree.debut & masque) == debut; });
 }
 
 int fVerifValAut(const char*, char* champ, const void* sverif, int lenSverif) {

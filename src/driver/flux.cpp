@@ -34,16 +34,17 @@ int regarder() {
     return flux.bloc[flux.position];
 }
 
-bool imprimable(unsigned char c) { return c >= 0x20 && c <= 0x7E; }
+constexpr bool imprimable(unsigned char c) { return static_cast<unsigned char>(c - 0x20) <= 0x7E - 0x20; }
 
 /** Takes a whole record of printable characters at once; 0 when the block does
  *  not hold one, and the bytes are then looked at one by one. */
 int prendreLigneEntiere(char* tampon) {
     if (flux.taille - flux.position < LARGEUR_VSE) return 0;
     const unsigned char* const debut = flux.bloc + flux.position;
-    unsigned mauvais = 0;
+    // No early end, and bytes only: the compiler then tests many at a time.
+    unsigned char mauvais = 0;
     for (int i = 0; i < LARGEUR_VSE; ++i)
-        mauvais |= static_cast<unsigned>(!imprimable(debut[i]));
+        mauvais |= static_cast<unsigned char>(!imprimable(debut[i]));
     if (mauvais != 0) return 0;
     std::memcpy(tampon, debut, LARGEUR_VSE);
     flux.position += LARGEUR_VSE;

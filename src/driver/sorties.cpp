@@ -3,6 +3,7 @@
 #include <cstring>
 
 #include "calendar/horloge.h"
+#include "checks/lecture.h"
 #include "driver/etat.h"
 #include "messages/aiguillage.h"
 #include "rules/moteur.h"
@@ -57,7 +58,7 @@ struct ligneVSE {
 };
 
 bool estRetourECQ(const valeurVSE* enteteVSE) {
-    return std::strcmp(enteteVSE[E6].valeur, "ERRE") == 0 && std::strcmp(enteteVSE[E5].valeur, "ECQ") == 0;
+    return egal(enteteVSE[E6].valeur, "ERRE") && egal(enteteVSE[E5].valeur, "ECQ");
 }
 
 /** The ERRE record of a record in error. */

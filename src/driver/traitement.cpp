@@ -3,6 +3,7 @@
 #include <cstdio>
 #include <cstring>
 
+#include "checks/lecture.h"
 #include "checks/utils.h"
 #include "driver/etat.h"
 #include "driver/publication.h"
@@ -30,7 +31,6 @@ constexpr int ERR_SANS_EXP2 = 105;
 constexpr int ERR_SANS_RATA = 138;
 constexpr int TAILLE_NUMERO_FICHIER = 16;
 
-bool egal(const char* a, const char* b) { return std::strcmp(a, b) == 0; }
 bool typeEst(const char* type) { return egal(entete(E6), type); }
 bool genreEst(const char* genre) { return egal(entete(E5), genre); }
 bool varianteEst(const char* variante) { return egal(VARIANTE, variante); }
@@ -58,8 +58,7 @@ int reglesAdmission(int compte) {
     if (typeEst("ABAT")) {
         if (egal(sauvEmetteur, "NORM01  ")) {
             if (!egal(entete(E8), "NORMABEV")) compte = ajouterErreur(compte, ERR_CORPS_ABAT);
-        } else if (std::strncmp(sauvEmetteur, "OFFICE", 6) != 0 &&
-                   std::strncmp(sauvEmetteur, "ONICAB", 6) != 0) {
+        } else if (!memeDebut(sauvEmetteur, "OFFICE", 6) && !memeDebut(sauvEmetteur, "ONICAB", 6)) {
             compte = ajouterErreur(compte, ERR_EMETTEUR);
         }
     }

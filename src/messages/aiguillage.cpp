@@ -1,7 +1,6 @@
 #include "messages/aiguillage.h"
 
-#include <cstring>
-
+#include "checks/lecture.h"
 #include "messages/messages.h"
 
 namespace quilvane {
@@ -43,7 +42,7 @@ static_assert(tAiguillage[ERR_AIGUILLAGE].code == CODE_INCONNU && ERR_AIGUILLAGE
 
 int aiguiller(const char* typeVSE) {
     for (int i = 0; i < LEN_AIGUILLAGE; ++i)
-        if (std::strcmp(typeVSE, tAiguillage[i].nomVSE) == 0) return i;
+        if (egal(typeVSE, tAiguillage[i].nomVSE)) return i;
     return ERR_AIGUILLAGE;
 }
 

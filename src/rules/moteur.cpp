@@ -7,6 +7,7 @@
 #include <cstdio>
 #include <cstring>
 
+#include "checks/lecture.h"
 #include "rules/latin1.h"
 
 namespace quilvane {
@@ -36,7 +37,7 @@ colonne colonneDuGenre(const char* genre) {
         {"MOD", &sCorps::typeMOD}, {"ECQ", &sCorps::typeCRE},  // an error return is read as a creation
     };
     for (const ligne& l : GENRES)
-        if (std::strcmp(genre, l.genre) == 0) return l.code;
+        if (egal(genre, l.genre)) return l.code;
     return nullptr;
 }
 
@@ -53,6 +54,48 @@ int erreursDeCadrage(int visu, int compte) {
         noter(codLong, "VSE trop long ", ERR_TROP_LONG);
     else if (codLong == 2)
         noter(codLong, "VSE trop court ", ERR_TROP_COURT);
+    return compte;
+}
+
+/** The arguments of `verifChamps` that name the table and its slots. */
+struct tableAppliquee {
+    const sCorps* lignes;
+    int nombre;
+    valeurVSE* slots;
+    const char* genre;   // null: every row is checked
+    const char* lettre;  // of the part, in traces
+};
+
+/** Walks the rows. The console mode is known when this is compiled, so that a
+ *  run without traces does not ask for it at each row. */
+template <eVisu visu>
+int appliquer(const tableAppliquee& t, int compte) {
+    const colonne presence = t.genre != nullptr ? colonneDuGenre(t.genre) : nullptr;
+    int emplacement = -1;
+
+    for (const sCorps* ligne = t.lignes; ligne != t.lignes + t.nombre; ++ligne) {
+        if (ligne->debut != 0) ++emplacement;
+        if (visu == VISU_DECRIPTEE) std::printf("champ: %d  ", ligne->numChamp + 1);
+        if (compte >= MAX_ERREURS || ligne->pfVerif == nullptr) continue;
+
+        char* const valeur = t.slots[emplacement].valeur;
+        const int code = t.genre == nullptr ? A_VERIFIER : presence == nullptr ? INTERDIT : ligne->*presence;
+        if (code == IGNORE) {
+            if (visu == VISU_DECRIPTEE) std::printf("verif ignoree! '%s'\n", valeur);
+            continue;
+        }
+        int numero = ERR_GENRE;
+        if (code == A_VERIFIER) {
+            if (visu == VISU_DECRIPTEE) std::printf("'%s'\n", valeur);
+            if (ligne->pfVerif(ligne->dependance, valeur, ligne->sverif, *ligne->plenSverif)) continue;
+            if (visu == VISU_DECRIPTEE) std::printf("! erreurChamp sur [%s]\n", valeur);
+            numero = ligne->noErr;
+        } else if (visu == VISU_DECRIPTEE) {
+            std::printf("verifOblg = [%d]\n", code);
+        }
+        if (visu == VISU_INFORMATIQUE) std::printf("%s%i.%i;", t.lettre, emplacement + 1, numero);
+        compte = ajouterErreur(compte, numero);
+    }
     return compte;
 }
 
@@ -82,34 +125,11 @@ void getvseChamps(const sCorps* tCorps, int lCorps, const char* tampon, valeurVS
 
 int verifChamps(int visu, int nbErreurPassee, const sCorps* pChamps, int lpChamps, valeurVSE* valChampsVSE,
                 const char* valE5, const char* premLettre) {
-    int compte = erreursDeCadrage(visu, nbErreurPassee);
-    const colonne presence = valE5 != nullptr ? colonneDuGenre(valE5) : nullptr;
-    int emplacement = -1;
-
-    for (const sCorps* ligne = pChamps; ligne != pChamps + lpChamps; ++ligne) {
-        if (ligne->debut != 0) ++emplacement;
-        if (visu == VISU_DECRIPTEE) std::printf("champ: %d  ", ligne->numChamp + 1);
-        if (compte >= MAX_ERREURS || ligne->pfVerif == nullptr) continue;
-
-        char* const valeur = valChampsVSE[emplacement].valeur;
-        const int code = valE5 == nullptr ? A_VERIFIER : presence == nullptr ? INTERDIT : ligne->*presence;
-        if (code == IGNORE) {
-            if (visu == VISU_DECRIPTEE) std::printf("verif ignoree! '%s'\n", valeur);
-            continue;
-        }
-        int numero = ERR_GENRE;
-        if (code == A_VERIFIER) {
-            if (visu == VISU_DECRIPTEE) std::printf("'%s'\n", valeur);
-            if (ligne->pfVerif(ligne->dependance, valeur, ligne->sverif, *ligne->plenSverif)) continue;
-            if (visu == VISU_DECRIPTEE) std::printf("! erreurChamp sur [%s]\n", valeur);
-            numero = ligne->noErr;
-        } else if (visu == VISU_DECRIPTEE) {
-            std::printf("verifOblg = [%d]\n", code);
-        }
-        if (visu == VISU_INFORMATIQUE) std::printf("%s%i.%i;", premLettre, emplacement + 1, numero);
-        compte = ajouterErreur(compte, numero);
-    }
-    return compte;
+    const tableAppliquee t = {pChamps, lpChamps, valChampsVSE, valE5, premLettre};
+    const int compte = erreursDeCadrage(visu, nbErreurPassee);
+    if (visu == VISU_INFORMATIQUE) return appliquer<VISU_INFORMATIQUE>(t, compte);
+    if (visu == VISU_DECRIPTEE) return appliquer<VISU_DECRIPTEE>(t, compte);
+    return appliquer<VISU_AUCUNE>(t, compte);
 }
 
 }  // namespace quilvane
