@@ -68,7 +68,7 @@ struct texteAlloue {
 bool verificationParametre(int argc, char* const argv[]) {
     faireVSEDate(VSEDate);
     int fautes = 0;
-    for (int option; (option = getopt(argc, argv, "D:vdi")) != -1;) {
+    for (int option = 0; (option = getopt(argc, argv, "D:vdi")) != -1;) {
         switch (option) {
             case 'd': visu = VISU_DECRIPTEE; break;
             case 'i': visu = VISU_INFORMATIQUE; break;

@@ -130,3 +130,29 @@ TEST(FichierMelange, DemandesDeDonneesDansLeurPropreFichier) {
     d.ecrire("recu", entree);
     EXPECT_EQ(lancer(d, {"recu", "emis", "log"}).statut, 0);
 }
+
+TEST(Guide, MontreLaSortieReelle) {
+    const dossier d;
+    d.ecrire("acti_rejete.vse", lire(EXEMPLES + "acti_rejete.vse"));
+    const resultat r = lancer(d, {"-i", "acti_rejete.vse", "acti.out", "acti.log"});
+    std::string texte = "$ quilvane -i acti_rejete.vse acti.out acti.log\n" + r.sortie + "$ echo $?\n" +
+                        std::to_string(r.statut) + "\n$ cut -c 63-121 acti.out\n";
+    const std::string emis = d.lire("acti.out");
+    for (std::size_t ligne = 0; ligne < emis.size(); ligne += 257)
+        texte += emis.substr(ligne + 62, 59) + "\n";
+    EXPECT_NE(lire(QUILVANE_RACINE "/README.md").find(texte), std::string::npos) << texte;
+}
+
+TEST(Guide, NommeTousLesTypesDeMessage) {
+    const std::string guide = lire(QUILVANE_RACINE "/README.md");
+    for (const std::string& type : typesDeMessage()) {
+        std::string genres;
+        for (const std::string& genre : genresDe(type))
+            genres += (genres.empty() ? "" : ", ") + genre;
+        const std::size_t ligne = guide.find("| " + type + " | ");
+        ASSERT_NE(ligne, std::string::npos) << type;
+        EXPECT_NE(guide.substr(ligne, guide.find('\n', ligne) - ligne).find("| " + genres + " |"),
+                  std::string::npos)
+            << type << " " << genres;
+    }
+}
