@@ -57,6 +57,26 @@ TEST(Lecture, PartirDUneColonne) {
     }
 }
 
+TEST(Lecture, ChaqueColonneDeChaqueLongueur) {
+    for (std::size_t longueur = 0; longueur <= 70; ++longueur) {
+        std::string s;
+        for (std::size_t i = 0; i < longueur; ++i)
+            s += static_cast<char>('!' + i);
+        const texte t(s);
+        for (std::size_t col = 1; col <= 75; ++col) {
+            const std::string reste = col > longueur ? "" : s.substr(col - 1);
+            ASSERT_EQ(aPartirDe(t.get(), static_cast<int>(col)), reste) << longueur << " col " << col;
+        }
+    }
+}
+
+TEST(Lecture, DeuxChiffres) {
+    for (int n = 0; n < 100; ++n) {
+        const char t[] = {static_cast<char>('0' + n / 10), static_cast<char>('0' + n % 10)};
+        EXPECT_EQ(deuxChiffres(t), n);
+    }
+}
+
 TEST(Lecture, ChiffresEtBlancsParColonnes) {
     struct {
         const char* texte;
