@@ -239,6 +239,7 @@ TEST(Dates, JourEtMoisDepuisP6) {
         {"", "    2001", false},
         {"", "15  2001", false},
         {"", "  002001", false},
+        {"", "00  2001", false},
         // The day is there, if badly written.
         {"", "00081999", false, " 0081999"},
         {"", "15002001", false, " 5002001"},
@@ -449,6 +450,20 @@ TEST(Dates, InstantStrictementPasse) {
             {"31122025", "235959", true},
             {"01012027", "000000", false},
             {"21112026X", "115959X", true},  // six and eight characters are read
+            {"211120269", "1159599", true},
+        });
+}
+
+TEST(Dates, InstantALaSecondePres) {
+    const horlogeFigee figee(NOVEMBRE_2026 + 23 * 60 + 37, "UTC0");
+    SUJET(fDATEHEUREC)
+        .prouver({
+            {"21112026", "122336", true},
+            {"21112026", "122337", false},
+            {"21112026", "122338", false},
+            {"21112026", "122259", true},
+            {"21112026", "122400", false},
+            {"21112026", "1223369", true},
         });
 }
 
@@ -522,10 +537,26 @@ TEST(Dates, InstantAuChangementDHeure) {
 }
 
 TEST(Dates, InstantDUnJourSaute) {
-    // A zone that goes 24 hours ahead at midnight has no 31 March 2024.
-    const horlogeFigee figee(NOVEMBRE_2026, "AAA0BBB-24,M3.5.0/0,M10.5.0/0");
-    SUJET(fDATEHEUREC)
-        .prouver({{"30032024", "120000", true}, {"31032024", "120000", false}, {"01042024", "120000", true}});
+    // Zones that go 24 hours ahead at midnight: one has no 31 March 2024, the
+    // other no 10 March.
+    {
+        const horlogeFigee finDeMois(NOVEMBRE_2026, "AAA0BBB-24,M3.5.0/0,M10.5.0/0");
+        SUJET(fDATEHEUREC)
+            .prouver({
+                {"30032024", "120000", true},
+                {"31032024", "120000", false},
+                {"01042024", "120000", true},
+            });
+    }
+    {
+        const horlogeFigee milieuDeMois(NOVEMBRE_2026, "AAA0BBB-24,M3.2.0/0,M10.5.0/0");
+        SUJET(fDATEHEUREC)
+            .prouver({
+                {"09032024", "120000", true},
+                {"10032024", "120000", false},
+                {"11032024", "120000", true},
+            });
+    }
 }
 
 // ------------------------------------------------------- filled together
@@ -626,11 +657,13 @@ TEST(Dates, AbattagePasAvantLEntree) {
             {"", "    2011", true},
             {"", "1005201", false},
             {"", "100520109", true},  // eight characters are read
+            {"", "090520109", false},
             {"", "XXXX2011", true},
             {"01011900", "10052010", true},  // the dependency plays no part
             {"31129999", "10052010", true},
         },
         entreeLe("10052010"));
+    s.prouver({{"", "10052010", true}, {"", "09052010", false}}, entreeLe("100520109"));
     for (const char* champ : {"", "01011900", "XXXXXXXX", "        "})
         s.prouver({{"", champ, true}}, entreeLe(blancs(8)));
     // A record that ends before the entry date: it reads as zeros.
