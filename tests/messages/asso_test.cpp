@@ -52,7 +52,8 @@ void prouverForme(const char* nom, fVerif* verif, const std::string& type, const
         EXPECT_EQ(accepte(verif, "", "?", liste, lenListe), autre != type) << autre;
     }
     for (const std::string& autre :
-         {std::string("     "), std::string(), type.substr(0, 2), std::string("siren")}) {
+         {std::string("     "), std::string(), type.substr(0, 2), std::string("siren"),
+          type.substr(0, 2) + "???", type.substr(0, type == "CEM  " ? 2 : 4) + "?"}) {
         placer("?", autre);
         EXPECT_TRUE(accepte(verif, "", "?", liste, lenListe)) << "'" << autre << "'";
     }
@@ -223,6 +224,7 @@ TEST(Asso, TypeSelonGenre) {
         {"CEM  ", false, true},  {"CEM12", false, true}, {"CEM",   false, true},
         {"SIRENX", true, false}, {"SIRETX", false, true},  // five characters count
         {"SIRE ", false, false}, {"SIRE",  false, false}, {"siren", false, false}, {"cem  ", false, false},
+        {"SIREX", false, false}, {"SIRE?", false, false}, {"AGRI?", false, false}, {"AGRSX", false, false},
         {"CE   ", false, false}, {"CE",    false, false}, {" CEM ", false, false}, {"     ", false, false},
         {"",      false, false},
         // clang-format on
@@ -320,6 +322,8 @@ TEST(Asso, AgrementSanitaire) {
                      {n20("7812345X"), true},  // column 8 is free
                      {n20("78ABCDE"), true},   // columns 3 to 7 only hold no blank
                      {n20("01-----?"), true},
+                     {n20("2112345"), true},
+                     {n20("9512345"), true},
                      {n20("2A12345"), true},
                      {n20("2B12345X"), true},
                      {n20("2C12345"), false},

@@ -191,6 +191,28 @@ TEST(Nais, EnregistrementsParticuliers) {
     // clang-format on
 }
 
+// A record that ends inside the dam's number: its two blanks are a blank
+// number for two of the three checks, before P5 only.
+TEST(Nais, NumeroDeMereCoupeADeuxColonnes) {
+    const struct {
+        const char* c6;
+        const char* c10;
+        std::vector<int> codes;
+    } cas[] = {
+        {"30061999", "FR", {52, 113, 8, 14, 14, 9, 68, 132, 90, 91}},
+        {"30061999", "BE", {52, 113, 8, 14, 14, 9, 68, 132, 90, 91}},
+        {"01071999", "FR", {52, 7, 67, 113, 8, 14, 14, 9, 2, 2}},
+        {"01071999", "BE", {52, 7, 6, 113, 8, 14, 14, 9, 2, 2}},
+    };
+    for (const auto& c : cas) {
+        std::string r = modele("MOD");
+        poser(r, 82, c.c6);
+        poser(r, 105, c.c10);
+        poser(r, 107, "  ");
+        EXPECT_EQ(codesDe(r.substr(0, 108)), c.codes) << c.c6 << " " << c.c10;
+    }
+}
+
 TEST(Nais, ChampsApresLesColonnesNonCoupees) {
     std::string r = modele("CRE");
     poser(r, 151, "ABCDEFGH");

@@ -107,6 +107,7 @@ TEST(Nvmn, EnregistrementsParticuliers) {
         {"before P6, no holding", "MOD", {{82, "30061999"}, {137, SANS_CODE}, {139, SANS_NUMERO}}, {2, 2, 68, 50}},
         {"before P6, blank day", "MOD", {{82, "  061999"}}, {5}},
         {"before P8, unknown breeds", "MOD", {{82, "31121998"}, {119, SANS_CODE}, {135, SANS_CODE}}, {8, 9}},
+        {"sire number repeats its country", "CRE", {{123, "BE123456    "}}, {14}},
         {"no sire", "CRE", {{121, SANS_CODE}, {123, SANS_NUMERO}}, {}},
     });
     // clang-format on
