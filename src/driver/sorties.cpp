@@ -25,8 +25,9 @@ struct ligneVSE {
     ligneVSE& texte(const char* t) { return octets(t, std::strlen(t)); }
     ligneVSE& champ(const valeurVSE& v) { return texte(v.valeur); }
     ligneVSE& blancs(int n) {
-        for (; n > 0; --n)
-            octets(" ", 1);
+        const std::size_t place = reste(n > 0 ? static_cast<std::size_t>(n) : 0);
+        std::memset(tampon + longueur, ' ', place);
+        longueur += place;
         return *this;
     }
     ligneVSE& code(int numero) {
@@ -47,10 +48,14 @@ struct ligneVSE {
     }
 
     ligneVSE& octets(const char* o, std::size_t n) {
-        if (n > sizeof tampon - longueur) n = sizeof tampon - longueur;
+        n = reste(n);
         std::memcpy(tampon + longueur, o, n);
         longueur += n;
         return *this;
+    }
+    /** `n`, or what still fits. */
+    std::size_t reste(std::size_t n) const {
+        return n < sizeof tampon - longueur ? n : sizeof tampon - longueur;
     }
 
     char tampon[4 * LARGEUR_VSE];

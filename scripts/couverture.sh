@@ -1,0 +1,13 @@
+#!/usr/bin/env bash
+# Line and branch coverage of the product by all tests. Fails when a line or a
+# branch is missed that scripts/couverture.exclues does not name.
+set -euo pipefail
+. "$(dirname "$0")/paquets.sh"
+cd "$racine"
+exiger g++ cmake ninja-build libgtest-dev faketime gcovr
+construire coverage
+find build/coverage -name '*.gcda' -delete
+ctest --preset coverage -j "$(nproc)" --progress || arreter "tests failed under preset coverage"
+gcovr --root . --filter 'src/' --object-directory build/coverage --exclude-throw-branches --txt --branches
+gcovr --root . --filter 'src/' --object-directory build/coverage --exclude-throw-branches --txt
+gcovr --root . --filter 'src/' --object-directory build/coverage --exclude-throw-branches --json build/couverture.json
