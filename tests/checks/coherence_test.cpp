@@ -700,6 +700,10 @@ TEST(CoherenceIndM, ListeDesPlages) {
               {"002IPG  ", "104999      ", true},
               {"002IPG  ", "300000      ", false}},
              liste, 3);
+    verdicts("no triple", fCoheren_OC_IND_M,
+             {{"001IPG  ", "100000      ", false},
+              {"975IPG  ", "650000      ", false},
+              {"076IPG  ", "683499      ", true}});
 }
 
 // ------------------------------------------------------ dates in order
