@@ -3,6 +3,8 @@
  */
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "support/attendu.h"
 #include "support/generateur.h"
 
@@ -241,6 +243,19 @@ TEST(Console, InformatiqueCadrage) {
     EXPECT_EQ(console("-i", fichier({avec(fich(1), {{61, "9"}}) + "\x80", acti()}), 2),
               interdit + "VSE trop long E12.97;\n\n");
     EXPECT_EQ(console("-i", fichier({fich(1).substr(0, 250), acti()}), 2), "VSE trop court \n\n");
+}
+
+TEST(Console, AutantDeFinsDeLigneQueDeRecords) {
+    commande c;
+    c.graine = 11;
+    c.nombre = 300;
+    c.fautes = 30;
+    const std::string sortie = console("-i", fichierGenere(c), 2);
+    EXPECT_EQ(std::count(sortie.begin(), sortie.end(), '\n'), 301);
+    // Line n belongs to record n: the fault of the last record stands last.
+    std::string faux = acti();
+    poser(faux, 256, "#");
+    EXPECT_EQ(console("-i", fichier({fich(4), acti(), faux, acti(), faux}), 2), "\n\nF5.94;\n\nF5.94;\n");
 }
 
 TEST(Console, SansOptionRienNEstAffiche) {

@@ -658,6 +658,19 @@ TEST(Cycle, LeLogNeContientQueLaDerniereCourse) {
     EXPECT_EQ(d.contenu(), (contenu{{"out", EMIS}, {"log", ""}}));
 }
 
+TEST(Cycle, LogSousLeNomDeLaSortie) {
+    // The result takes the name; after a fatal condition it is removed with
+    // the empty output, before its line is written.
+    for (const auto& [octets, statut, laisse] :
+         {std::tuple{BON, 0, contenu{{"out", EMIS}}}, std::tuple{MAUVAIS, 2, contenu{{"out", ERREURS}}},
+          std::tuple{FATAL, 1, contenu{{"in", FATAL}}}}) {
+        const dossier d;
+        d.ecrire("in", octets);
+        EXPECT_EQ(lancer(d, {"in", "out", "out"}).statut, statut);
+        EXPECT_EQ(d.contenu(), laisse);
+    }
+}
+
 TEST(Cycle, LaConsoleNeChangePasLesFichiers) {
     for (const char* option : {"-i", "-d"}) {
         for (const auto& [octets, statut, resultatEmis] :
