@@ -32,16 +32,6 @@ constexpr texteLatin1 MSG_IG015("IG015: Présence de VSE de longueur nulle");
 constexpr texteLatin1 MSG_I073("I073 : Plus de 10000 enregistrements dans le fichier");
 constexpr texteLatin1 MSG_I099("I099 : Donnée absente : numéro du fichier émis");
 
-/** Removes a file unless its name denotes the input that was just given back. */
-void retirerSaufEntree(const char* nom) {
-    struct stat entree;
-    struct stat autre;
-    if (stat(name_recu, &entree) == 0 && stat(nom, &autre) == 0 && entree.st_dev == autre.st_dev &&
-        entree.st_ino == autre.st_ino)
-        return;
-    std::remove(nom);
-}
-
 /** Gives the input back and clears the rest; false when it cannot be given
  *  back, and everything has then been removed and IG009 logged. */
 bool rendreEntree() {
@@ -54,7 +44,7 @@ bool rendreEntree() {
         return false;
     }
     for (const char* nom : {name_tmp_emis, name_emis, name_erre})
-        retirerSaufEntree(nom);
+        retirerSauf(nom, name_recu);
     return true;
 }
 
@@ -96,6 +86,14 @@ void consigner(const char* erreur, std::FILE* fp) {
                  t.tm_hour, t.tm_min, t.tm_sec, erreur);
     if (fp == fp_log) fp_log = nullptr;
     std::fclose(fp);
+}
+
+void retirerSauf(const char* nom, const char* garde) {
+    struct stat autre;
+    struct stat fichier;
+    const bool meme = stat(garde, &fichier) == 0 && stat(nom, &autre) == 0 &&
+                      fichier.st_dev == autre.st_dev && fichier.st_ino == autre.st_ino;
+    if (!meme) std::remove(nom);
 }
 
 int emettre(const char* name_emettre) {

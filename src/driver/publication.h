@@ -50,6 +50,9 @@ int emettre(const char* name_emettre);
  */
 int renoncer();
 
+/** Removes the file `nom` unless that name denotes the very file `garde`. */
+void retirerSauf(const char* nom, const char* garde);
+
 /** Undoes a run whose files are closed: gives the input back and removes the
  *  temporary and output files; logs IG009 when it cannot be given back. */
 void nePasEmettre();
