@@ -408,11 +408,13 @@ TEST(Erre, ValeursParPosition) {
 
 TEST(Erre, TracesParPositionEtParNumero) {
     const dossier d;
+    options heureReelle;
+    heureReelle.horloge.clear();
     std::string r = retour("ECQ");
     poser(r, 222, "089ARS  ");
     const auto tracer = [&](const char* mode) {
         d.ecrire("recu", fichier({fich(1), r}));
-        return lancer(d, {mode, "recu", "emis", "log"}).sortie;
+        return lancer(d, {mode, "recu", "emis", "log"}, heureReelle).sortie;
     };
     EXPECT_NE(tracer("-i").find("\nC19.87;\n"), std::string::npos);
     EXPECT_NE(tracer("-d").find("champ: 37  '089ARS  '\n! erreurChamp sur [089ARS  ]\n"), std::string::npos);

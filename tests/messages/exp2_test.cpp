@@ -67,7 +67,7 @@ TEST(Exp2, CasDEnregistrements) {
             {"two digits are no department", "CRE", {{81, "78123456    "}}, {30}},
             {"both dates on the record date", "MOD", {{141, "15032024"}, {149, "15032024"}}, {}},
             {"arrival after departure", "MOD", {{141, "01032024"}, {149, "01022024"}}, {}},
-            {"dates must be complete", "MOD", {{141, "  022024"}, {149, "        "}}, {22, 22}},
+            {"dates must be complete", "MOD", {{141, "  022024"}, {149, "    2024"}}, {22, 22}},
             {"a creation gives no departure", "CRE", {{97, std::string(14, '#')}, {149, "########"}}, {}},
             {"an invalidation gives no arrival", "INV", {{79, std::string(14, '#')}, {141, "########"}}, {}},
         });
