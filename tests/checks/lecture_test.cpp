@@ -116,6 +116,16 @@ TEST(Lecture, ChiffresEtBlancsParColonnes) {
     }
 }
 
+// A column that is not there satisfies no test, be it one that all characters pass.
+TEST(Lecture, TousSArreteAuTerminateur) {
+    const texte t("1234");
+    const auto toujours = [](char) { return true; };
+    EXPECT_TRUE(tous(t.get(), 1, 4, toujours));
+    EXPECT_FALSE(tous(t.get(), 1, 5, toujours));
+    EXPECT_FALSE(tous(t.get(), 5, 5, toujours));
+    EXPECT_FALSE(tous(t.get(), 2, 3, [](char c) { return c != '3'; }));
+}
+
 TEST(Lecture, ComparaisonsDeTextes) {
     struct {
         const char* a;
