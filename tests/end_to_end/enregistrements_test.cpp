@@ -307,3 +307,35 @@ TEST(Enregistrements, DixMilleActivites) {
         }
     }
 }
+
+TEST(Enregistrements, SansAucunEnregistrement) {
+    const auto sommaire = [](const char* compteurs) {
+        return std::string("INF") + compteurs + "1" + blancs(105) + ESTAMPILLE + blancs(97);
+    };
+    const std::string sansFich = "ERRERREINTERFAC" + blancs(42) + "I1001" + blancs(114) + ESTAMPILLE;
+    for (const char* entree : {"", "X", "\x1A", "sans fin de ligne\x1A\r\n"})
+        verifierPublie(entree, entree, 2, {sommaire("000001-00001000001-00001"), sansFich});
+    // Lines in CR alone are counted: one takes the place of the FICH record.
+    verifierPublie("one CR-only line", "X\r", 0, {"INF000000" + blancs(247)});
+    verifierPublie("two CR-only lines", "X\rX\r", 2, {sommaire("000001000001000001000001"), sansFich});
+    verifierAnnule("FICH alone", fichier({fich(0)}), "IG014: Pas de VSE de base");
+    verifierAnnule("FICH and CR-only lines", fichier({fich(2)}) + "X\rX\r", "IG014: Pas de VSE de base");
+}
+
+TEST(Enregistrements, Estampilles) {
+    // A clock that moves two seconds each time it is read: at the start of the
+    // run, and when the FICH record of the error file is written.
+    options o;
+    o.horloge = "@2024-03-16 11:22:33 i2.0";
+    const dossier d;
+    const std::string fausse = avec(acti(), {{79, "9"}});
+    d.ecrire("recu", fichier({fich(5), fausse, exp1()}));
+    EXPECT_EQ(lancer(d, {"recu", "emis", "log"}, o).statut, 2);
+    const std::string emis = d.lire("emis");
+    ASSERT_EQ(emis.size(), 4 * 257U);
+    const auto estampille = [&](std::size_t i) { return emis.substr(257 * i + 230, 26); };
+    EXPECT_NE(estampille(0), estampille(1));
+    for (std::size_t i = 1; i < 4; ++i)
+        EXPECT_EQ(estampille(i), estampille(1)) << i;
+    EXPECT_GT(estampille(0), estampille(1)) << "same day, later time";
+}
