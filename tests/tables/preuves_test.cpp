@@ -305,6 +305,21 @@ TEST(Tables, LesCodesDePresenceSont0A2) {
     });
 }
 
+TEST(Tables, UnChampSansVerificationEstIgnorePartoutSaufExceptions) {
+    // The tag order's C11 stands with its neighbours; the engine skips it all the same.
+    const std::vector<std::string> PERMIS = {"tGroc C11: 11222"};
+    std::vector<std::string> autres;
+    pourChaqueLigne([&](const tableNommee& t, const sCorps& ligne, const sCorps&) {
+        if (ligne.pfVerif != nullptr) return;
+        std::string codes;
+        for (const int code : {ligne.typeCRE, ligne.typeDEM, ligne.typeINV, ligne.typeEDI, ligne.typeMOD})
+            codes += std::to_string(code);
+        if (codes != "11111")
+            autres.push_back(t.nom + " C" + std::to_string(ligne.numChamp + 1) + ": " + codes);
+    });
+    EXPECT_EQ(autres, PERMIS);
+}
+
 TEST(Tables, UneVerificationAUnNumeroDErreur) {
     pourChaqueLigne([](const tableNommee&, const sCorps& ligne, const sCorps&) {
         const bool numerote = ligne.noErr >= 1 && ligne.noErr <= 999;
