@@ -391,6 +391,7 @@ TEST(Abattage, FormeEtValeurDuPoids) {
         {"1000,001", false, true},  // two hundredths' digits
         {"100,011", false, true},
         {"99999", false, false},
+        {"0999500", false, true},  // four digits of kilograms
         {"XXXXXXX", false, true},
     };
     for (const ligne& l : LIGNES) {
