@@ -50,8 +50,9 @@ int emettre(const char* name_emettre);
  */
 int renoncer();
 
-/** Removes the file `nom` unless that name denotes the very file `garde`. */
-void retirerSauf(const char* nom, const char* garde);
+/** Removes the working file `nom` of a published run, unless the output was
+ *  given that name. */
+void retirerTravail(const char* nom);
 
 /** Undoes a run whose files are closed: gives the input back and removes the
  *  temporary and output files; logs IG009 when it cannot be given back. */

@@ -234,9 +234,9 @@ int publier(const decompte& d) {
     fermerFichiers();
     errno = cause;
     const bool emis = (entier ? emettre(valide ? name_tmp_emis : name_erre) : renoncer()) == 0;
-    if (emis) {  // the output may have been given one of the working names
-        retirerSauf(name_tmp_recu, name_emis);
-        retirerSauf(valide ? name_erre : name_tmp_emis, name_emis);
+    if (emis) {
+        retirerTravail(name_tmp_recu);
+        retirerTravail(valide ? name_erre : name_tmp_emis);
     }
     fermer(fp_log);
     if (!entier) return STATUT_FATAL;

@@ -155,7 +155,15 @@ resultat lancerProgramme(const std::string& programme, const dossier& d,
 }
 
 resultat lancer(const dossier& d, const std::vector<std::string>& arguments, const options& o) {
-    return lancerProgramme(QUILVANE_BINAIRE, d, arguments, o);
+    const char* const valgrind = std::getenv("QUILVANE_VALGRIND");
+    if (valgrind == nullptr || o.tuerApres > 0) return lancerProgramme(QUILVANE_BINAIRE, d, arguments, o);
+    // Any message of valgrind's goes to standard error, where no test expects one.
+    std::vector<std::string> mots = {"-q", "--error-exitcode=99", o.argv0};
+    mots.insert(mots.end(), arguments.begin(), arguments.end());
+    options v = o;
+    v.argv0 = "valgrind";
+    v.milieu.insert({"PATH", fs::path(QUILVANE_BINAIRE).parent_path().string() + ":/usr/bin:/bin"});
+    return lancerProgramme(valgrind, d, mots, v);
 }
 
 }  // namespace essai

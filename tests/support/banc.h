@@ -61,7 +61,8 @@ struct options {
 /**
  * Runs the program with `arguments` in folder `d`. Its environment holds
  * TZ=UTC, LANG=C and what `o.milieu` adds; TMPDIR is not set, so that working
- * files stand beside their files.
+ * files stand beside their files. When the tests' own environment names a
+ * valgrind in QUILVANE_VALGRIND the program runs under it.
  */
 resultat lancer(const dossier& d, const std::vector<std::string>& arguments, const options& o = {});
 
