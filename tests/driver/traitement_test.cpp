@@ -594,3 +594,21 @@ TEST_F(Traitement, TraceDUneVSE) {
     EXPECT_EQ(testing::internal::GetCapturedStdout(), "\n");
     EXPECT_EQ(nbErreur, 1);
 }
+
+TEST_F(Traitement, TablesParcouruesEnModeD) {
+    const auto champsParcourus = [this](const std::string& record) {
+        testing::internal::CaptureStdout();
+        traitement(record.c_str(), VISU_DECRIPTEE, rang++, CVERSE_UNIX);
+        const std::string trace = testing::internal::GetCapturedStdout();
+        int n = 0;
+        for (std::size_t p = 0; (p = trace.find("champ: ", p)) != std::string::npos; ++p)
+            ++n;
+        return n;
+    };
+    // Header, then the FICH body twice; its footer is not looked at.
+    EXPECT_EQ(champsParcourus(fich(1)), 14 + 9 + 9);
+    EXPECT_EQ(champsParcourus(acti()), 14 + 12 + 6);
+    // Ten errors: the body's rows are still walked, the footer's are not.
+    EXPECT_EQ(champsParcourus(actiDixErreurs()), 14 + 12);
+    EXPECT_EQ(champsParcourus(avec(acti(), {{22, "XXXX"}})), 14);
+}
