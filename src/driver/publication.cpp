@@ -32,15 +32,83 @@ constexpr texteLatin1 MSG_IG015("IG015: Présence de VSE de longueur nulle");
 constexpr texteLatin1 MSG_I073("I073 : Plus de 10000 enregistrements dans le fichier");
 constexpr texteLatin1 MSG_I099("I099 : Donnée absente : numéro du fichier émis");
 
-/** Removes the file `nom` unless that name denotes the very file `garde`. */
+bool memeFichier(const struct stat& a, const struct stat& b) {
+    return a.st_dev == b.st_dev && a.st_ino == b.st_ino;
+}
+
+/** Whether a name, itself or as a link, denotes the input, which now has the
+ *  name `entree`. */
+bool estEntree(const char* nom, const char* entree) {
+    struct stat a;
+    struct stat b;
+    return stat(entree, &a) == 0 && stat(nom, &b) == 0 && memeFichier(a, b);
+}
+
+/** Gives the input back and clears the rest; false when it cannot be given
+ *  back, and everything has then been removed and IG009 logged. */
+bool rendreEntree() {
+    std::remove(name_recu);
+    if (std::rename(name_tmp_recu, name_recu) != 0) {
+        std::perror("rename");
+        for (const char* nom : {name_tmp_recu, name_tmp_emis, name_emis, name_erre})
+            std::remove(nom);
+        consigner(IG009, fp_log);
+        return false;
+    }
+    for (const char* nom : {name_tmp_emis, name_emis, name_erre})
+        if (!estEntree(nom, name_recu)) std::remove(nom);
+    return true;
+}
+
+}  // namespace
+
+constexpr const char* IG001 = MSG_IG001;
+constexpr const char* IG002 = MSG_IG002;
+constexpr const char* IG003 = MSG_IG003;
+constexpr const char* IG004 = MSG_IG004;
+constexpr const char* IG008 = MSG_IG008;
+constexpr const char* IG009 = MSG_IG009;
+constexpr const char* IG010 = MSG_IG010;
+constexpr const char* IG011 = MSG_IG011;
+constexpr const char* IG014 = MSG_IG014;
+constexpr const char* IG015 = MSG_IG015;
+constexpr const char* I073 = MSG_I073;
+constexpr const char* I099 = MSG_I099;
+
+int fermer(std::FILE*& fp) {
+    if (fp == nullptr) return 1;
+    // A write that failed earlier is not always reported by the close itself.
+    const bool dejaEnErreur = std::ferror(fp) != 0;
+    const bool ferme = std::fclose(fp) == 0;
+    fp = nullptr;
+    if (ferme && dejaEnErreur) errno = EIO;
+    return ferme && !dejaEnErreur;
+}
+
+void fermerFichiers() {
+    fermer(fp_recu);
+    fermer(fp_emis);
+    fermer(fp_erre);
+}
+
+void consigner(const char* erreur, std::FILE* fp) {
+    if (fp == nullptr) return;
+    const std::tm t = heureLocale();
+    std::fprintf(fp, "Le %02d/%02d/%04d a %02d:%02d:%02d : %s\n", t.tm_mday, t.tm_mon + 1, t.tm_year + 1900,
+                 t.tm_hour, t.tm_min, t.tm_sec, erreur);
+    if (fp == fp_log) fp_log = nullptr;
+    std::fclose(fp);
+}
+
 int emettre(const char* name_emettre) {
-    // An output name that denotes the input is replaced without a moment at
-    // which neither exists.
-    retirerSauf(name_emis, name_tmp_recu);
+    // An output name that denotes the input is replaced by the renaming alone,
+    // so that there is no moment at which neither exists.
+    if (!estEntree(name_emis, name_tmp_recu)) std::remove(name_emis);
     return std::rename(name_emettre, name_emis) == 0 ? 0 : renoncer();
 }
 
-void retirerSaufResultat(const char* nom) {
+void retirerTravail(const char* nom) {
+    // The name itself is compared: a link to the result may go.
     struct stat resultat;
     struct stat autre;
     if (stat(name_emis, &resultat) == 0 && lstat(nom, &autre) == 0 && memeFichier(resultat, autre)) return;
