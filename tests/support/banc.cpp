@@ -109,7 +109,12 @@ resultat lancerProgramme(const std::string& programme, const dossier& d,
         milieu.push_back("FAKETIME_DONT_RESET=1");
     }
     if (!precharge.empty()) milieu.push_back("LD_PRELOAD=" + precharge);
-    for (const char* garde : {"ASAN_OPTIONS", "UBSAN_OPTIONS", "LSAN_OPTIONS", "GCOV_PREFIX"})
+    // The sanitizer's allocator must not read the clock while it holds its lock:
+    // the library that freezes the clock allocates on its first call.
+    std::string asan = "allocator_release_to_os_interval_ms=-1";
+    if (const char* const v = std::getenv("ASAN_OPTIONS")) asan = std::string(v) + ":" + asan;
+    milieu.push_back("ASAN_OPTIONS=" + asan);
+    for (const char* garde : {"UBSAN_OPTIONS", "LSAN_OPTIONS", "GCOV_PREFIX"})
         if (const char* const v = std::getenv(garde)) milieu.push_back(std::string(garde) + "=" + v);
     for (const auto& [nom, valeur] : o.milieu) {
         std::erase_if(milieu, [debut = nom + "="](const std::string& m) { return m.starts_with(debut); });
