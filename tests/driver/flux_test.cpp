@@ -6,6 +6,7 @@
 #include <cstdio>
 #include <cstring>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "rules/pack.h"
@@ -20,8 +21,9 @@ namespace {
 struct ligne {
     int fin;
     std::string texte;
-    int longueur = 0;  // codLong
-    int caract = 0;    // codCaract
+    int longueur;  // codLong
+    int caract;    // codCaract
+    ligne(int f, std::string t, int l = 0, int c = 0) : fin(f), texte(std::move(t)), longueur(l), caract(c) {}
     bool operator==(const ligne&) const = default;
 };
 

@@ -6,6 +6,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <chrono>
 #include <cstring>
 #include <filesystem>
 #include <functional>
@@ -377,8 +378,9 @@ resultat lancerEnDeuxTemps(const dossier& d, const std::string& octets,
     if (mkfifo(d.nom("in").c_str(), 0600) != 0) throw std::runtime_error("mkfifo");
     const int tube = open(d.nom("in").c_str(), O_RDWR | O_CLOEXEC);
     std::future<resultat> course = std::async(std::launch::async, [&] { return lancer(d, TROIS); });
-    for (int essais = 0; !d.existe("in_o") && essais < 60000; ++essais)
-        usleep(1000);
+    // Until its last file is open, or it has ended without.
+    while (!d.existe("in_o") && course.wait_for(std::chrono::milliseconds(1)) != std::future_status::ready) {
+    }
     pendant(d);
     EXPECT_EQ(write(tube, octets.data(), octets.size()), static_cast<ssize_t>(octets.size()));
     close(tube);
