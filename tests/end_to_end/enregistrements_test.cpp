@@ -323,10 +323,10 @@ TEST(Enregistrements, SansAucunEnregistrement) {
 }
 
 TEST(Enregistrements, Estampilles) {
-    // A clock that moves two seconds each time it is read: at the start of the
-    // run, and when the FICH record of the error file is written.
+    // A clock that runs 20000 times as fast as the true one is read at the start
+    // of the run, and again when the FICH record of the error file is written.
     options o;
-    o.horloge = "@2024-03-16 11:22:33 i2.0";
+    o.horloge = "@2024-03-16 11:22:33 x20000";
     const dossier d;
     const std::string fausse = avec(acti(), {{79, "9"}});
     d.ecrire("recu", fichier({fich(5), fausse, exp1()}));

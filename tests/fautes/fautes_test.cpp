@@ -306,7 +306,7 @@ TEST(Fautes, Lectures) {
 }
 
 TEST(Fautes, Allocations) {
-#ifdef __SANITIZE_ADDRESS__
+#ifdef QUILVANE_ASSAINI
     GTEST_SKIP() << "the address sanitizer has its own allocator, which no library can stand in front of";
 #endif
     // As n grows the run must fail in these ways, in this order, and in no other.
