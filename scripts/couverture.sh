@@ -4,10 +4,11 @@
 set -euo pipefail
 . "$(dirname "$0")/paquets.sh"
 cd "$racine"
-exiger g++ cmake ninja-build libgtest-dev faketime gcovr
+exiger g++ cmake ninja-build libgtest-dev faketime gcovr python3
 construire coverage
-find build/coverage -name '*.gcda' -delete
+find build/coverage -name "*.gcda" -delete
 ctest --preset coverage -j "$(nproc)" --progress || arreter "tests failed under preset coverage"
-gcovr --root . --filter 'src/' --object-directory build/coverage --exclude-throw-branches --txt --branches
-gcovr --root . --filter 'src/' --object-directory build/coverage --exclude-throw-branches --txt
-gcovr --root . --filter 'src/' --object-directory build/coverage --exclude-throw-branches --json build/couverture.json
+gcovr --root . --filter 'src/' --object-directory build/coverage --exclude-throw-branches \
+    --json build/couverture.json
+gcovr --root . --add-tracefile build/couverture.json --txt
+python3 scripts/couverture.py build/couverture.json scripts/couverture.exclues . || arreter "something is not covered"

@@ -95,6 +95,6 @@ cverseFgetsRet cverseFgets(char* tampon) {
     }
 }
 
-bool fluxEnErreur() { return flux.fichier != nullptr && std::ferror(flux.fichier) != 0; }
+bool fluxEnErreur() { return std::ferror(flux.fichier) != 0; }
 
 }  // namespace quilvane

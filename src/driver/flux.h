@@ -35,7 +35,8 @@ void ouvrirFlux(std::FILE* fichier);
  */
 cverseFgetsRet cverseFgets(char* tampon);
 
-/** Whether reading stopped at a read error rather than at the end of the file. */
+/** Whether reading stopped at a read error rather than at the end of the file;
+ *  asked once the stream was opened. */
 bool fluxEnErreur();
 
 }  // namespace quilvane

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstring>
 #include <string>
 #include <vector>
 
@@ -587,4 +588,15 @@ TEST(Abattage, DixOuDeuxBlancs) {
             {"", "NORMABEV", false},
             {"10", "20", false},
         });
+}
+
+TEST(Abattage, FichierC11LitDouzeChiffres) {
+    valCorpsVSE[C11].valeur[0] = '\0';
+    std::strcpy(cp.NUME_IDENT_ABAT_NOTIF, "123456789012345");
+    std::strcpy(bufC11, "123456789012");
+    EXPECT_TRUE(accepte(fichier_C11, "", ""));
+    std::strcpy(bufC11, "123456789012345");
+    EXPECT_FALSE(accepte(fichier_C11, "", ""));
+    cp = {};
+    bufC11[0] = '\0';
 }

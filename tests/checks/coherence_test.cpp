@@ -1201,3 +1201,13 @@ TEST(LectureDate, LeChampRecritServiraAuxLignesSuivantes) {
     EXPECT_FALSE(lire("00032024", INCOMPLETE));
     EXPECT_FALSE(lire("00002024", INCOMPLETE));
 }
+
+TEST(Coherence, TextesCoupesAvantLesColonnesComparees) {
+    // What neither text holds cannot differ; what one of them holds does.
+    EXPECT_TRUE(accepte(fCoherenCC, "", ""));
+    EXPECT_TRUE(accepte(fCoherenCC, "0", ""));
+    EXPECT_FALSE(accepte(fCoherenCC, "078IPG  ", ""));
+    EXPECT_FALSE(accepte(fCoherenCC, "", "78123456    "));
+    EXPECT_TRUE(accepte(fCoherenCCD, "", ""));
+    EXPECT_FALSE(accepte(fCoherenCCD, "078IPG  ", "07"));
+}

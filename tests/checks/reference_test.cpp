@@ -452,6 +452,8 @@ TEST(Reference, ColonnesAutresQueZero) {
         // Empty ranges.
         {"1234561111", 7, 6, 0},
         {"1234561111", 10, 7, 0},
+        // No such column.
+        {"1234561111", 0, 3, 0},
         // Length.
         {lettres(98), 7, 10, 1},
         {lettres(99), 7, 10, 0},
@@ -461,4 +463,16 @@ TEST(Reference, ColonnesAutresQueZero) {
     for (const ligne& l : LIGNES)
         EXPECT_EQ(fVerifDiffZero(l.champ.c_str(), l.debut, l.fin) != 0, l.attendu != 0)
             << "'" << l.champ << "' " << l.debut << "-" << l.fin;
+}
+
+TEST(Reference, ListesTropCourtesOuHorsDuRecord) {
+    // A list with fewer entries than a check reads matches nothing.
+    EXPECT_FALSE(accepte(fVTYPE, "", "              ", NUM, 2));
+    EXPECT_FALSE(accepte(fVEGDS, "abcdefghij", "ghij", D7F10, 1));
+    EXPECT_FALSE(accepte(fVDIFFVD, trenteBlancs[0].valeur, trenteBlancs[0].valeur, trenteBlancs, 0));
+    // Columns that no record has.
+    constexpr tValAutorise COLONNES[][2] = {
+        {"0", "3"}, {"257", "258"}, {"1", "257"}, {"99999999999999999999", "1"}};
+    for (const auto& colonnes : COLONNES)
+        EXPECT_FALSE(accepte(fVEGDS, "abc", "abc", colonnes, 2)) << colonnes[0].valeur;
 }

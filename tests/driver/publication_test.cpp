@@ -123,6 +123,14 @@ TEST_F(Publication, ConsignerSansFluxNeFaitRien) {
     EXPECT_EQ(message(), "gardé\n");
 }
 
+TEST_F(Publication, ConsignerDansUnAutreFluxLaisseLeLog) {
+    std::FILE* const autre = std::fopen("/dev/null", "w");
+    consigner("ailleurs", autre);
+    ASSERT_NE(fp_log, nullptr);
+    consigner("ici", fp_log);
+    EXPECT_EQ(message(), "ici\n");
+}
+
 TEST_F(Publication, EmettreRemplaceLaSortie) {
     EXPECT_EQ(erreurStandard([&] { EXPECT_EQ(emettre(name_tmp_emis), 0); }), "");
     EXPECT_EQ(reste(), (fichiers{{"emis", "contenu de recu_e"},
