@@ -26,10 +26,13 @@ std::size_t pages(std::size_t octets) { return (octets + PAGE - 1) / PAGE; }
  *  namespace. They vanish with it. */
 bool montagesPrives() {
     static const bool prives = [] {
-        const std::string uid = std::to_string(getuid());
+        const std::string uid = "0 " + std::to_string(getuid()) + " 1";
+        const std::string gid = "0 " + std::to_string(getgid()) + " 1";
         if (unshare(CLONE_NEWNS) != 0) {
             if (unshare(CLONE_NEWUSER | CLONE_NEWNS) != 0) return false;
-            std::ofstream("/proc/self/uid_map") << "0 " << uid << " 1";
+            std::ofstream("/proc/self/uid_map") << uid;
+            std::ofstream("/proc/self/setgroups") << "deny";
+            std::ofstream("/proc/self/gid_map") << gid;
         }
         return mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0;
     }();
