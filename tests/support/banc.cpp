@@ -161,9 +161,12 @@ resultat lancerProgramme(const std::string& programme, const dossier& d,
 
 resultat lancer(const dossier& d, const std::vector<std::string>& arguments, const options& o) {
     const char* const valgrind = std::getenv("QUILVANE_VALGRIND");
-    if (valgrind == nullptr || o.tuerApres > 0) return lancerProgramme(QUILVANE_BINAIRE, d, arguments, o);
+    // valgrind finds the program by its name and cannot give it another, and
+    // needs a usable TMPDIR itself.
+    if (valgrind == nullptr || o.tuerApres > 0 || o.argv0 != "quilvane" || o.milieu.contains("TMPDIR"))
+        return lancerProgramme(QUILVANE_BINAIRE, d, arguments, o);
     // Any message of valgrind's goes to standard error, where no test expects one.
-    std::vector<std::string> mots = {"-q", "--error-exitcode=99", o.argv0};
+    std::vector<std::string> mots = {"-q", "--vgdb=no", "--error-exitcode=99", o.argv0};
     mots.insert(mots.end(), arguments.begin(), arguments.end());
     options v = o;
     v.argv0 = "valgrind";
