@@ -63,7 +63,7 @@ struct tableAppliquee {
     int nombre;
     valeurVSE* slots;
     const char* genre;   // null: every row is checked
-    const char* lettre;  // of the part, in traces
+    const char* lettre;  // names the section in traces
 };
 
 /** Walks the rows. The console mode is known when this is compiled, so that a

@@ -24,7 +24,7 @@ void getvseChamps(const sCorps* tCorps, int lCorps, const char* tampon, valeurVS
  * for a body table and null for header, footer and FICH tables, whose rows are
  * all checked. Error numbers go to `codeErreur` behind the `nbErreurPassee`
  * already there, ten at most; the framing faults 106, 107 and 108 come first.
- * `premLettre` names the part in traces ("E", "C", "F"). Returns the new count.
+ * `premLettre` names the section in traces ("E", "C", "F"). Returns the new count.
  */
 int verifChamps(int visu, int nbErreurPassee, const sCorps* pChamps, int lpChamps, valeurVSE* valChampsVSE,
                 const char* valE5, const char* premLettre);

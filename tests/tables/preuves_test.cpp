@@ -7,6 +7,7 @@
 #include <map>
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "checks/utils.h"
@@ -433,6 +434,68 @@ TEST(Tables, UneDependanceEstUnChampQuiExiste) {
         EXPECT_EQ(champs[static_cast<std::size_t>(k)]->numChamp, k);
         EXPECT_NE(champs[static_cast<std::size_t>(k)], &champ) << "a field that depends on itself";
     });
+}
+
+TEST(Tables, ChaqueLigneDependDeSonChamp) {
+    // Row, from 1, and the field it depends on; the rows that are not named
+    // depend on none. (A check that ignores its dependency is given it too.)
+    // clang-format off
+    const std::vector<std::pair<std::string, std::string>> ATTENDUES = {
+        {"tEntete", "3:E6 4:E6 7:E5 9:E6 10:E6 11:E6 13:E6 14:E6"},
+        {"tFin", "4:E6"},
+        {"tFich", ""},
+        {"tAbat", "10:F1 13:F1"},
+        {"tActi", "3:C1 4:E8 8:F1 10:F1"},
+        {"tAsso", "19:F1 21:C7 22:F1"},
+        {"tDete", "3:E8 4:E8 5:E8 10:C7 11:C6"},
+        {"tDeti", "3:E8 7:F1 9:F1"},
+        {"tEcbo", "3:C1 4:C1 5:C1 12:C7 17:C12"},
+        {"tEcha", "3:C1 8:F1 13:C10 14:C10 15:C10 18:C13 19:C13 21:C6 22:C6 23:C6 24:C16 25:C16 26:C16 29:E8 34:F1 35:C6"},
+        {"tEget", "4:E8 7:C6 8:C5"},
+        {"tEntr", "3:C1 4:C1 5:C1 9:F1 10:C4 11:E5 15:E8 25:F1 28:F1 29:C4"},
+        {"tErre", "20:F1 22:F1 24:F1 26:F1 28:FICH E3"},
+        {"tErti", "4:E8 7:C4 9:F1 12:C6 13:F1 15:F1 16:C5 17:C5"},
+        {"tExp1", "3:C1 4:E8 9:C7 10:C6"},
+        {"tExp2", "3:C1 4:E8 20:F1 22:F1"},
+        {"tGroc", "3:C1 4:C1 8:C1 9:E8 11:F1 17:C1 18:C7 19:C6 20:F1 22:F1 24:C10"},
+        {"tImoc", "4:E8 8:C1 9:E8 12:F1"},
+        {"tImpo", "4:E8 9:F1 14:C10 15:C10 18:C13 19:C13 22:C16 23:C16 24:C16 28:E8 34:F1 35:C6"},
+        {"tInfo", "3:C1 4:C1 5:C1"},
+        {"tJalo", "3:C1 4:C1 5:C1 9:C1 10:E8 12:F1"},
+        {"tNais", "6:C1 7:C1 8:C1 9:E8 15:F1 20:C6 22:C10 23:C10 24:C10 25:C6 26:C6 27:C6 28:C6 29:C10 31:C6 33:C13 34:C13 36:C6 38:C6 41:E8 42:C6 43:C6 44:C16 48:F1 49:C6"},
+        {"tNuma", "4:E8 9:E8 12:C5 14:F1 16:C7 21:C7"},
+        {"tNvmn", "5:E8 10:F1 16:C10 17:C10 18:C10 21:C13 22:C13 27:E8 29:F1 30:C6"},
+        {"tPass", "3:C1 4:C1 5:C1 10:E8 12:C11 16:F1 17:C11"},
+        {"tPico", "4:E8 8:C4 9:E8 12:C5 14:F1 22:C8"},
+        {"tRaco", "4:E8 7:F1 11:F1 12:C4"},
+        {"tRata", "4:E8 9:C1 12:C1 14:F1 16:F1"},
+        {"tRebo", "3:C1 4:C1 5:C1 8:F1 12:E8 14:F1 15:C4 20:C4"},
+        {"tSort", "3:C1 4:C1 5:C1 9:F1 10:C4 11:E5 15:E8 25:F1 27:F1 28:C4"},
+    };
+    // clang-format on
+    const auto champDe = [](const char* dependance) -> std::string {
+        if (const lieu l = lieuDe(valEnteteVSE, dependance); l.dedans)
+            return "E" + std::to_string(l.emplacement + 1);
+        if (const lieu l = lieuDe(valCorpsVSE, dependance); l.dedans)
+            return "C" + std::to_string(l.emplacement + 1);
+        if (const lieu l = lieuDe(valFinVSE, dependance); l.dedans)
+            return "F" + std::to_string(l.emplacement + 1);
+        if (const lieu l = lieuDe(valFichEnteteVSE, dependance); l.dedans)
+            return "FICH E" + std::to_string(l.emplacement + 1);
+        return "?";
+    };
+    ASSERT_EQ(ATTENDUES.size(), TABLES.size());
+    for (std::size_t k = 0; k < TABLES.size(); ++k) {
+        const tableNommee& t = TABLES[k];
+        std::string trouvees;
+        for (int i = 0; i < t.longueur; ++i) {
+            const char* const dependance = t.lignes[i].dependance;
+            if (*dependance == '\0' && champDe(dependance) == "?") continue;
+            trouvees += (trouvees.empty() ? "" : " ") + std::to_string(i + 1) + ":" + champDe(dependance);
+        }
+        EXPECT_EQ(t.nom, ATTENDUES[k].first);
+        EXPECT_EQ(trouvees, ATTENDUES[k].second) << t.nom;
+    }
 }
 
 TEST(Tables, LExploitationConcerneeEstUnPaysEtUnNumero) {
