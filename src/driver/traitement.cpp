@@ -101,8 +101,8 @@ int reglesPartenaire(int compte) {
 }
 
 /** Body, partner and footer rules of a record whose type is known. */
-int reglesCorpsEtFin(const sAiguillage& ligne, const char* tampon, int mode, int compte) {
-    getvseChamps(ligne.tabVerif, *ligne.pLenTabVerif, tampon, valCorpsVSE, mode);
+int reglesCorpsEtFin(const sAiguillage& ligne, int mode, int compte) {
+    getvseChamps(ligne.tabVerif, *ligne.pLenTabVerif, xdebug, valCorpsVSE, mode);
     compte = verifChamps(mode, compte, ligne.tabVerif, *ligne.pLenTabVerif, valCorpsVSE, entete(E5), "C");
     compte = reglesPartenaire(compte);
     if (compte < MAX_ERREURS) compte = verifChamps(mode, compte, tFin, lFin, valFinVSE, nullptr, "F");
@@ -147,13 +147,13 @@ void finirTrace(int mode) {
     if (mode == VISU_INFORMATIQUE) std::fputc('\n', stdout);
 }
 
-int traiterFICH(const char* tampon, int mode) {
+int traiterFICH(int mode) {
     if (!typeEst("FICH")) {
         annuler(IG011);
         return FATAL;
     }
     errFich += verifChamps(mode, 0, tEntete, lEntete, valEnteteVSE, nullptr, "E");
-    getvseChamps(tFich, lFich, tampon, valCorpsVSE, mode);
+    getvseChamps(tFich, lFich, xdebug, valCorpsVSE, mode);
     const char* const numeroFichier = corps(C1);
     if (std::strlen(numeroFichier) == TAILLE_NUMERO_FICHIER && champVide(numeroFichier)) {
         annuler(I099);
@@ -180,11 +180,11 @@ int traiterFICH(const char* tampon, int mode) {
 }  // namespace
 
 int traitement(const char* tampon, int mode, int nombreDeVSE, int formatDuFichier) {
-    affichageVSE(tampon, mode);
+    affichageVSE(tampon, mode);  // from here on the record is in `xdebug`
     std::memset(codeErreur, 0, MAX_ERREURS * sizeof codeErreur[0]);
-    getvseChamps(tEntete, lEntete, tampon, valEnteteVSE, mode);
-    getvseChamps(tFin, lFin, tampon, valFinVSE, mode);
-    if (nombreDeVSE == 1) return traiterFICH(tampon, mode);
+    getvseChamps(tEntete, lEntete, xdebug, valEnteteVSE, mode);
+    getvseChamps(tFin, lFin, xdebug, valFinVSE, mode);
+    if (nombreDeVSE == 1) return traiterFICH(mode);
 
     int itAiguil = ERR_AIGUILLAGE;
     nbErreur = reglesAdmission(0);
@@ -194,7 +194,7 @@ int traitement(const char* tampon, int mode, int nombreDeVSE, int formatDuFichie
         if (nbErreur < MAX_ERREURS) itAiguil = aiguiller(entete(E6));
     }
     if (tAiguillage[itAiguil].code != CODE_INCONNU)
-        nbErreur = reglesCorpsEtFin(tAiguillage[itAiguil], tampon, mode, nbErreur);
+        nbErreur = reglesCorpsEtFin(tAiguillage[itAiguil], mode, nbErreur);
 
     if (nbErreur == 0) {
         faireVSEValide(tampon, formatDuFichier);

@@ -103,8 +103,10 @@ int appliquer(const tableAppliquee& t, int compte) {
 
 void getvseChamps(const sCorps* tCorps, int lCorps, const char* tampon, valeurVSE* tValVSE, int visu) {
     const auto longueur = static_cast<int>(strnlen(tampon, TAILLE_XDEBUG - 1));
-    std::memmove(xdebug, tampon, static_cast<std::size_t>(longueur));
-    xdebug[longueur] = '\0';
+    if (tampon != xdebug) {
+        std::memmove(xdebug, tampon, static_cast<std::size_t>(longueur));
+        xdebug[longueur] = '\0';
+    }
 
     constexpr int PETIT = 16;  // fields up to this width are copied in one piece
     static_assert(DERNIERE_COL_CORPS + PETIT < TAILLE_XDEBUG && LARGEUR_VSE + PETIT < TAILLE_XDEBUG);

@@ -395,6 +395,8 @@ TEST(Dates, CauseInconnueOuDateIncomplete) {
             {"    1999", "L", true},         {"    2000", "L", false},
             {blancs(8), "L", true},          {"", "L", true},
             {"3112200", "T", true},          {"01 12005", "T", false},
+            {"ZZZZZZZZ", "B", true},  // no limit: the date is not looked at
+            {"ZZZZZZZZ", "T", false},
         });
 }
 

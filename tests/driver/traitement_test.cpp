@@ -286,6 +286,8 @@ TEST_F(Traitement, ReglesDAdmission) {
         {"OFFICE12", "031BDN  ", deCorps(abat(), "OFFICE12"), {}},
         {"ONICABFR", "031BDN  ", deCorps(abat(), "ONICABFR"), {}},
         {"OFFICE12", "031BDN  ", abat(), {135}},
+        {"OFFICX12", "031BDN  ", deCorps(abat(), "OFFICX12"), {110, 87}},
+        {"ONICAXFR", "031BDN  ", deCorps(abat(), "ONICAXFR"), {110, 87}},
         {"089ARS  ", "031BDN  ", abat("INV"), {110}},
     };
     for (const auto& c : cas) {
@@ -295,6 +297,68 @@ TEST_F(Traitement, ReglesDAdmission) {
     // Equal codes agree, whatever they are.
     ouvrir("001IPG  ");
     EXPECT_EQ(codesDe(avec(acti(), {{27, "001IPG  "}, {65, "01123456    "}})), codes{});
+}
+
+// Runs that follow each other in one process start alike.
+TEST(Etat, RevientAuDebutDuProcessus) {
+    struct variable {
+        const char* nom;
+        void* adresse;
+        std::size_t taille;
+        const char* texte = "";  // its first bytes; zeros follow
+    };
+#define VARIABLE(nom) \
+    { #nom, static_cast < void*>(&nom), sizeof nom }
+    const variable VARIABLES[] = {
+        VARIABLE(name_recu),
+        VARIABLE(name_emis),
+        VARIABLE(name_log),
+        VARIABLE(name_tmp_recu),
+        VARIABLE(name_tmp_emis),
+        VARIABLE(name_erre),
+        VARIABLE(fp_log),
+        VARIABLE(fp_recu),
+        VARIABLE(fp_emis),
+        VARIABLE(fp_erre),
+        VARIABLE(VSEDate),
+        VARIABLE(visu),
+        {"sauvEmetteur", sauvEmetteur, sizeof sauvEmetteur, "XXXXXXXX"},
+        {"sauvRecepteur", sauvRecepteur, sizeof sauvRecepteur, "XXXXXXXX"},
+        VARIABLE(codeFichErreur),
+        VARIABLE(errFich),
+        VARIABLE(sauvCodeVSE),
+        VARIABLE(sauvTypeVSE),
+        VARIABLE(sauvCodeVSEerr),
+        VARIABLE(sauvLienVSE),
+        VARIABLE(sauvTamponVSE),
+        VARIABLE(existDependanceVSEerr),
+        VARIABLE(err_aux),
+        VARIABLE(valEnteteVSE),
+        VARIABLE(valCorpsVSE),
+        VARIABLE(valFinVSE),
+        VARIABLE(valFichEnteteVSE),
+        VARIABLE(valFichCorpsVSE),
+        VARIABLE(valFichFinVSE),
+        VARIABLE(codeErreur),
+        VARIABLE(bufC11),
+        VARIABLE(cp),
+        VARIABLE(nbErreur),
+        VARIABLE(codCaract),
+        VARIABLE(codLong),
+    };
+#undef VARIABLE
+    for (const variable& v : VARIABLES)
+        std::memset(v.adresse, 0x5A, v.taille);
+    VARIANTE = "QUILVANED ";
+    xdebug[0] = '?';
+    initialiserEtat();
+    for (const variable& v : VARIABLES) {
+        std::string attendus(v.taille, '\0');
+        attendus.replace(0, std::strlen(v.texte), v.texte);
+        EXPECT_TRUE(std::memcmp(v.adresse, attendus.data(), v.taille) == 0) << v.nom;
+    }
+    EXPECT_STREQ(VARIANTE, "QUILVANE  ");
+    EXPECT_STREQ(xdebug, "");
 }
 
 TEST_F(Traitement, AdmissionAvantLesTables) {

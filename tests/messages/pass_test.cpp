@@ -73,6 +73,7 @@ TEST(Pass, Enregistrements) {
             {"inventory does not read the flag", "INV", {{119, "?"}}, {}},
             {"inventory does not read the second date", "INV", {{105, "????????"}}, {}},
             {"request reads neither dates nor time", "DEM", {{95, std::string(136, '?')}}, {}},
+            {"second date that is no time", "EDI", {{105, "29022024"}}, {}},
             {"date in the future", "EDI", {{95, "01012099"}}, {}},
             {"last cause", "DEM", {{93, "09"}}, {}},
             {"blank cause", "DEM", {{93, "  "}}, {44}},
