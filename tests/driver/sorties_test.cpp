@@ -147,8 +147,10 @@ TEST_F(Sorties, VSEERRNombreDeCodes) {
     }
     // Ten codes fill columns 112 to 161 and leave 69 blanks.
     codes.resize(10);
+    nbErreur = 7;  // only a count that is cut is written back
     EXPECT_EQ(colonnes(erreurs("FR", "78123456    ", codes), 112, 230),
               "I0011I0501I8061I1031I1041I1051I1061I1071I1081I1091" + blancs(69));
+    EXPECT_EQ(nbErreur, 7);
 }
 
 TEST_F(Sorties, VSEERRDUnCompteNegatifNAPasDeCode) {

@@ -210,6 +210,16 @@ TEST(Abat, Emetteurs) {
     EXPECT_EQ(codes("089ARS  ", "078IPG  "), std::vector<int>{110});
 }
 
+// Some checks pass everything: their rows are there to be read.
+TEST(Abat, ToutesLesLignesServentAuxTroisGenres) {
+    for (int i = 0; i < lAbat; ++i) {
+        const sCorps& l = tAbat[i];
+        if (l.pfVerif == nullptr) continue;
+        const std::vector<int> presences = {l.typeCRE, l.typeDEM, l.typeINV, l.typeEDI, l.typeMOD};
+        EXPECT_EQ(presences, (std::vector<int>{0, 1, 0, 1, 0})) << "row " << i;
+    }
+}
+
 TEST(Abat, GenresSansVerification) {
     prouverPresence("ABAT", &sCorps::typeDEM, 1);
     prouverPresence("ABAT", &sCorps::typeEDI, 1);

@@ -318,7 +318,7 @@ TEST(Erre, CodeDOrganisme) {
                    {"NORMABEV", true},  {"NORMABEX", false}, {"POINTFOC", true},  {"POINTFOX", false},
                    {"POINTF  ", false}, {"NORM01  ", false}, {"NORM02  ", false}, {"PFOC01  ", false},
                    {"089ARS  ", false}, {"OVINFOS ", false}, {"ONICAB", false},   {"ONICAB   ", false},
-                   {"013ipg  ", false}});
+                   {"013ipg  ", false}, {"ONICAXXY", false}, {"OFFICX01", false}});
 }
 
 TEST(Erre, OrganismeDeLEmetteur) {
