@@ -2,7 +2,9 @@
 
 #include <fcntl.h>
 #include <poll.h>
+#include <semaphore.h>
 #include <signal.h>
+#include <sys/mman.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -154,6 +156,9 @@ resultat lancerProgramme(const std::string& programme, const dossier& d,
     int etat = 0;
     while (waitpid(fils, &etat, 0) < 0 && errno == EINTR) {
     }
+    // A killed program leaves what the frozen clock shares under its number.
+    shm_unlink(("/faketime_shm_" + std::to_string(fils)).c_str());
+    sem_unlink(("/faketime_sem_" + std::to_string(fils)).c_str());
     if (WIFEXITED(etat)) r.statut = WEXITSTATUS(etat);
     if (WIFSIGNALED(etat)) r.signal = WTERMSIG(etat);
     return r;
