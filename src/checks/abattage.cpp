@@ -50,7 +50,7 @@ int fVerif_ASDA(const char*, char* champ, const void*, int) {
 }
 
 int fVerif_NUM_ASDA(const char*, char* champ, const void*, int) {
-    if (!egal(cp.CODE_EXPLOIT_PROVENANCE, "FR")) return 1;
+    if (!vaut(cp.CODE_EXPLOIT_PROVENANCE, "FR")) return 1;
     if (cp.INDIC_CREA_INVA_ABATT[0] == '\0') return 0;
     return estNational(cp.NUME_IDENT_ABAT_NOTIF) || verifNumExploitFr(champ);
 }
@@ -79,7 +79,7 @@ int fVerif_POIDS(const char*, char* champ, const void*, int) {
 }
 
 int fVerif_CODEPE_ABATNOT(const char*, char* champ, const void*, int) {
-    if (!estNational(cp.NUME_IDENT_ABAT_NOTIF)) return egal(champ, "FR");
+    if (!estNational(cp.NUME_IDENT_ABAT_NOTIF)) return vaut(champ, "FR");
     const char pays[3] = {carac(cp.NUME_IDENT_ABAT_NOTIF, 7), carac(cp.NUME_IDENT_ABAT_NOTIF, 8), '\0'};
     return egal(cp.CODE_PAYS_ABAT_NOTIF, pays);
 }
@@ -107,6 +107,6 @@ int fichier_C11(const char*, char*, const void*, int) {
     return egal(numero, bufC11) || estNational(corps(C11)) || corse(corps(C11));
 }
 
-int verifSpace(const char*, char* champ, const void*, int) { return egal(champ, "10") || egal(champ, "  "); }
+int verifSpace(const char*, char* champ, const void*, int) { return vaut(champ, "10") || vaut(champ, "  "); }
 
 }  // namespace quilvane

@@ -14,7 +14,7 @@ namespace quilvane {
 namespace {
 
 /** The movement cause of ENTR and SORT. */
-bool causeJ() { return egal(corps(C5), "J"); }
+bool causeJ() { return vaut(corps(C5), "J"); }
 
 /** Number ranges given to a departmental body beside its row of `IND_M`. */
 struct plage {
@@ -76,7 +76,7 @@ int fCoherenCC(const char* dependance, char* champ, const void*, int) {
     if (memeDebut(dependance, "02A", 3) || memeDebut(dependance, "02B", 3)) return memeDebut(champ, "20", 2);
     for (const char* dep : OUTRE_MER) {
         if (!memeDebut(dependance, dep, 3)) continue;
-        return memeDebut(champ, dep, 3) || (memeDebut(champ, "98", 2) && egal(dep, "974"));
+        return memeDebut(champ, dep, 3) || (memeDebut(champ, "98", 2) && vaut(dep, "974"));
     }
     return memeDebut(champ, aPartirDe(dependance, 2), 2);
 }
@@ -119,7 +119,7 @@ int pairesTEDC(const char* emetteur, const char* codeDep) {
 
 int fCoherenCCEget(const char* dependance, char* champ, const void* sverif, int lenSverif) {
     const char* const production = corps(C4);
-    if (egal(production, "V")) {
+    if (vaut(production, "V")) {
         const tValAutorise* const series = listeDe(sverif);
         const char serie[3] = {carac(champ, 1), carac(champ, 2), '\0'};
         for (int paire = 0; paire < lenSverif / 2; ++paire)
@@ -127,7 +127,7 @@ int fCoherenCCEget(const char* dependance, char* champ, const void* sverif, int 
                 return std::strstr(series[2 * paire + 1].valeur, serie) != nullptr;
         return 0;
     }
-    if (!egal(production, "P")) return 0;
+    if (!vaut(production, "P")) return 0;
     if (memeDebut(dependance, "971IPG", 6))
         return memeDebut(champ, "971", 3) || memeDebut(champ, "97A", 3) || memeDebut(champ, "97C", 3) ||
                memeDebut(champ, "97D", 3);
@@ -157,8 +157,7 @@ int fCoherenDCSupInf(const char* reference, const char* date, esupInf sens) {
     const dateInversee d(reference);
     dateInversee c(date);
     c.blancsEnZeros();
-    const int ordre = std::strcmp(c.texte, d.texte);
-    return sens == INF ? ordre <= 0 : ordre >= 0;
+    return sens == INF ? c.ordre <= d.ordre : c.ordre >= d.ordre;
 }
 
 int fCoherenDC(const char* dependance, char* champ, const void*, int) {

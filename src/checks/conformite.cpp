@@ -25,7 +25,7 @@ int numeroFrancais(const char* champ, const void* sverif, int lenSverif, int nbC
     return std::strlen(reste) == static_cast<std::size_t>(12 - nbChiffres) && videOuBlanc(reste);
 }
 
-bool estFR(const char* pays) { return egal(pays, "FR"); }
+bool estFR(const char* pays) { return vaut(pays, "FR"); }
 bool estUE(const char* pays) { return dansListe(pays, TCEE, LenTCEE); }
 bool estECHA(const char* pays) { return dansListe(pays, TECH, LenTECH); }
 
@@ -63,7 +63,7 @@ int fConform8FR(const char* dependance, char* champ, const void* sverif, int len
 }
 
 int fConform8FRnon(const char* dependance, char* champ, const void* sverif, int lenSverif) {
-    return estFR(dependance) || egal(dependance, "  ") ||
+    return estFR(dependance) || vaut(dependance, "  ") ||
            fVerifAucunBlanc_SD(dependance, champ, sverif, lenSverif);
 }
 
@@ -105,7 +105,7 @@ int fConform_OC_UE(const char* dependance, char* champ, const void* sverif, int 
 
 int fConform_OC_FR(const char* dependance, char* champ, const void*, int) {
     if (!estFR(dependance)) return 1;
-    return indicatifOC(champ) && chiffres(champ, 1, 11) && egal(aPartirDe(champ, 12), " ");
+    return indicatifOC(champ) && chiffres(champ, 1, 11) && vaut(aPartirDe(champ, 12), " ");
 }
 
 int fConform_OC_TP(const char* dependance, char* champ, const void*, int) {
@@ -113,16 +113,16 @@ int fConform_OC_TP(const char* dependance, char* champ, const void*, int) {
     if (!indicatifOC(champ) || !chiffres(champ, 1, 6)) return 0;
     const char* const commande = corps(C9);
     const char c7 = carac(champ, 7);
-    if (egal(commande, "PR") ? c7 != 'R' : egal(commande, "PC") ? c7 != 'C' : !estChiffre(c7)) return 0;
-    return (blancs(champ, 8, 11) || chiffres(champ, 8, 11)) && egal(aPartirDe(champ, 12), " ");
+    if (vaut(commande, "PR") ? c7 != 'R' : vaut(commande, "PC") ? c7 != 'C' : !estChiffre(c7)) return 0;
+    return (blancs(champ, 8, 11) || chiffres(champ, 8, 11)) && vaut(aPartirDe(champ, 12), " ");
 }
 
 int fConform_OC_IND_M(const char*, char* champ, const void*, int) {
-    return indicatifOC(champ) && chiffres(champ, 1, 6) && egal(aPartirDe(champ, 7), "      ");
+    return indicatifOC(champ) && chiffres(champ, 1, 6) && vaut(aPartirDe(champ, 7), "      ");
 }
 
 int fConform_OC_model1(const char*, char* champ, const void*, int) {
-    return !contientBlanc(champ, 1, 6) && egal(aPartirDe(champ, 7), "  ");
+    return !contientBlanc(champ, 1, 6) && vaut(aPartirDe(champ, 7), "  ");
 }
 
 int fConform_OC_model2(const char*, char* champ, const void* sverif, int lenSverif) {
@@ -156,14 +156,14 @@ int fConform_BV_model5(const char* dependance, char* champ, const void* sverif, 
 }
 
 int fConform_OC_pays_orig(const char* dependance, char* champ, const void*, int) {
-    return estFR(dependance) ? dansListe(champ, TP, LenTP) : egal(champ, "  ");
+    return estFR(dependance) ? dansListe(champ, TP, LenTP) : vaut(champ, "  ");
 }
 
 int fConform_OC_compteur(const char* dependance, char* champ, const void*, int) {
-    if (carac(dependance, 3) != 'E') return egal(champ, " ");
+    if (carac(dependance, 3) != 'E') return vaut(champ, " ");
     return std::strcmp(champ, "0") >= 0 && std::strcmp(champ, "7") <= 0;
 }
 
-int fConform_temoin_bouc2(const char*, char* champ, const void*, int) { return !egal(champ, "0"); }
+int fConform_temoin_bouc2(const char*, char* champ, const void*, int) { return !vaut(champ, "0"); }
 
 }  // namespace quilvane

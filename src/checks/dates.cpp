@@ -78,7 +78,7 @@ int fDatRecPost(const char* dependance, char* champ, const void*, int) {
 }
 
 int fDatRecPost_tr(const char* dependance, char* champ, const void* sverif, int lenSverif) {
-    return egal(corps(C5), "J") || fDatRecPost(dependance, champ, sverif, lenSverif);
+    return vaut(corps(C5), "J") || fDatRecPost(dependance, champ, sverif, lenSverif);
 }
 
 int fDatRec_OC_Post(const char* dependance, char* champ, const void*, int) {
@@ -94,7 +94,7 @@ int fVerifValAutDate(const char* dependance, char* champ, const void* sverif, in
     for (int paire = 0; paire < lenSverif / 2; ++paire) {
         if (!egal(causes[2 * paire].valeur, champ)) continue;
         const char* const limite = causes[2 * paire + 1].valeur;
-        return egal(limite, "TOUJOURS") || fCoherenDCSupInf(limite, dependance, INF);
+        return vaut(limite, "TOUJOURS") || fCoherenDCSupInf(limite, dependance, INF);
     }
     return 0;
 }

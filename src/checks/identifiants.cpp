@@ -20,7 +20,7 @@ struct departement {
             code[n] = numero[n];
         code[n] = '\0';
     }
-    bool est(const char* autre) const { return egal(code, autre); }
+    bool est(const char (&autre)[3]) const { return vaut(code, autre); }
     bool corse() const { return est("2A") || est("2B"); }
 };
 
@@ -118,12 +118,12 @@ int verifDateCompleteEtCorrecte(const char* date) {
 
 int fConformEget(const char*, char* champ, const void* sverif, int lenSverif) {
     const char* const production = corps(C4);
-    if (egal(production, "V")) {
+    if (vaut(production, "V")) {
         if (!codeVolailles(champ, listeDe(sverif), lenSverif)) return 0;
-    } else if (!egal(production, "P") || !codePorcins(champ)) {
+    } else if (!vaut(production, "P") || !codePorcins(champ)) {
         return 0;
     }
-    return egal(aPartirDe(champ, 6), "       ");
+    return vaut(aPartirDe(champ, 6), "       ");
 }
 
 int fConform3(const char*, char* champ, const void* sverif, int lenSverif) {

@@ -21,20 +21,35 @@ long long nombre(const char* texte, int col, int largeur) {
     return negatif ? -valeur : valeur;
 }
 
+namespace {
+
+/** Spells the number of a date out. */
+void ecrire(std::uint64_t ordre, char* texte) {
+    for (int i = 0; i < 8; ++i)
+        texte[i] = static_cast<char>(ordre >> (56 - 8 * i));
+    texte[8] = '\0';
+}
+
+}  // namespace
+
 dateInversee::dateInversee(const char* jjmmaaaa) {
-    constexpr int ORDRE[8] = {4, 5, 6, 7, 2, 3, 0, 1};  // year, month, day
-    const auto presents = static_cast<int>(strnlen(jjmmaaaa, 8));
+    std::uint64_t date = 0;
     int n = 0;
-    while (n < 8 && ORDRE[n] < presents) {
-        texte[n] = jjmmaaaa[ORDRE[n]];
-        ++n;
-    }
-    texte[n] = '\0';
+    for (; n < 8 && jjmmaaaa[n] != '\0'; ++n)
+        date |= std::uint64_t{static_cast<unsigned char>(jjmmaaaa[n])} << (56 - 8 * n);
+    ordre = date << 32;  // the year; nothing follows one that is cut
+    if (n == 8) ordre |= (date >> 16 & 0xFFFF0000) | date >> 48;
+    ecrire(ordre, texte);
 }
 
 void dateInversee::blancsEnZeros() {
-    for (char* p = texte; *p != '\0'; ++p)
-        if (*p == ' ') *p = '0';
+    // All bytes at once: a byte that differs from ' ' in no bit carries nothing
+    // into its highest one, and a blank becomes a zero by its bit 4.
+    constexpr std::uint64_t HAUT = 0x8080808080808080;
+    const std::uint64_t ecart = ordre ^ 0x2020202020202020;
+    const std::uint64_t blancs = ~((ecart & ~HAUT) + ~HAUT) & ~ecart & HAUT;
+    ordre |= blancs >> 3;
+    ecrire(ordre, texte);
 }
 
 }  // namespace quilvane

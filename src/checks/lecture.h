@@ -9,6 +9,7 @@
 #ifndef QUILVANE_CHECKS_LECTURE_H
 #define QUILVANE_CHECKS_LECTURE_H
 
+#include <cstdint>
 #include <cstring>
 
 namespace quilvane {
@@ -62,6 +63,15 @@ inline bool egal(const char* a, const char* b) {
     return false;
 }
 
+/** The same for a literal: its length is known, so that the compiler spells
+ *  the comparison out. `b` is no text in a wider array. */
+template <std::size_t N>
+bool vaut(const char* a, const char (&b)[N]) {
+    for (std::size_t i = 0; i < N; ++i)
+        if (a[i] != b[i]) return false;
+    return true;
+}
+
 /** Whether the texts, each cut after `n` characters, are equal. */
 inline bool memeDebut(const char* a, const char* b, int n) {
     for (; n > 0 && *a == *b; --n, ++a, ++b)
@@ -79,7 +89,11 @@ inline bool entre(const char* texte, const char* bas, const char* haut, int n) {
 }
 
 /** Whether the text is empty or made only of blanks. */
-inline bool videOuBlanc(const char* texte) { return texte[std::strspn(texte, " ")] == '\0'; }
+inline bool videOuBlanc(const char* texte) {
+    while (*texte == ' ')
+        ++texte;
+    return *texte == '\0';
+}
 
 /** Index of the last character that is no blank, -1 when there is none. */
 inline int dernierNonBlanc(const char* texte) {
@@ -102,6 +116,7 @@ long long nombre(const char* texte, int col = 1, int largeur = 256);
  * its record cut short ends at its first missing character.
  */
 struct dateInversee {
+    std::uint64_t ordre;  // the text as a number of eight bytes: both sort alike
     char texte[9];
     explicit dateInversee(const char* jjmmaaaa);
     /** An unknown day or month counts as zero. */

@@ -62,11 +62,11 @@ int fVDIFFNULLVTAB(const char*, char* champ, const void* sverif, int lenSverif) 
 }
 
 int fVTABDIFFFR(const char*, char* champ, const void* sverif, int lenSverif) {
-    return !egal(champ, "FR") && dansListe(champ, listeDe(sverif), lenSverif);
+    return !vaut(champ, "FR") && dansListe(champ, listeDe(sverif), lenSverif);
 }
 
 int fVDIFF2B(const char*, char* champ, const void* sverif, int lenSverif) {
-    return egal(champ, "  ") || dansListe(champ, listeDe(sverif), lenSverif);
+    return vaut(champ, "  ") || dansListe(champ, listeDe(sverif), lenSverif);
 }
 
 int fVEGALDNULLVTAB(const char* dependance, char* champ, const void* sverif, int lenSverif) {
@@ -92,7 +92,7 @@ int fConform_BV_model1(const char* dependance, char* champ, const void*, int) {
     const bool blanc = blancs(champ, 1, 8);
     if (tardif && blanc) return 0;
     if (!blanc && contientBlanc(champ, 1, 6)) return 0;
-    return egal(aPartirDe(champ, 7), "  ");
+    return vaut(aPartirDe(champ, 7), "  ");
 }
 
 int fConform_temoin_bouc1(const char* dependance, char* champ, const void*, int) {
@@ -117,7 +117,7 @@ int fVTYPE(const char*, char* champ, const void* sverif, int lenSverif) {
     const tValAutorise* const liste = listeDe(sverif);
     if (lenSverif < 3) return 0;
     if (egal(champ, liste[1].valeur) || egal(champ, liste[2].valeur)) return 1;
-    if (!egal(liste[0].valeur, "NUM")) return 0;
+    if (!vaut(liste[0].valeur, "NUM")) return 0;
     return champ[0] != '\0' && chiffres(champ, 1, static_cast<int>(std::strlen(champ)));
 }
 

@@ -31,19 +31,30 @@ constexpr int ERR_SANS_EXP2 = 105;
 constexpr int ERR_SANS_RATA = 138;
 constexpr int TAILLE_NUMERO_FICHIER = 16;
 
-bool typeEst(const char* type) { return egal(entete(E6), type); }
-bool genreEst(const char* genre) { return egal(entete(E5), genre); }
-bool varianteEst(const char* variante) { return egal(VARIANTE, variante); }
+template <std::size_t N>
+bool typeEst(const char (&type)[N]) {
+    return vaut(entete(E6), type);
+}
+template <std::size_t N>
+bool genreEst(const char (&genre)[N]) {
+    return vaut(entete(E5), genre);
+}
+template <std::size_t N>
+bool varianteEst(const char (&variante)[N]) {
+    return vaut(VARIANTE, variante);
+}
 
-/** Copies at most `n` characters and terminates. */
-void copier(char* destination, const char* source, std::size_t n) {
-    const std::size_t presents = strnlen(source, n);
-    std::memcpy(destination, source, presents);
-    destination[presents] = '\0';
+/** Copies what fits of a text and terminates it. */
+template <std::size_t N>
+void copier(char (&destination)[N], const char* source) {
+    std::size_t i = 0;
+    for (; i < N - 1 && source[i] != '\0'; ++i)
+        destination[i] = source[i];
+    destination[i] = '\0';
 }
 
 bool emetteurNational() {
-    return egal(sauvEmetteur, "NORM01  ") || egal(sauvEmetteur, "NORM02  ") || egal(sauvEmetteur, "PFOC01  ");
+    return vaut(sauvEmetteur, "NORM01  ") || vaut(sauvEmetteur, "NORM02  ") || vaut(sauvEmetteur, "PFOC01  ");
 }
 
 /** Who may send what to whom, before any table rule. */
@@ -51,13 +62,13 @@ int reglesAdmission(int compte) {
     if (varianteEst("QUILVANE  ") && !fCoherenCCE(sauvEmetteur, entete(E8)))
         compte = ajouterErreur(compte, ERR_EMETTEUR_CORPS);
     if (typeEst("INFO") && genreEst("DEM")) {
-        if (!egal(sauvEmetteur, "NORM02  ") && !egal(sauvEmetteur, "PFOC01  "))
+        if (!vaut(sauvEmetteur, "NORM02  ") && !vaut(sauvEmetteur, "PFOC01  "))
             compte = ajouterErreur(compte, ERR_EMETTEUR);
-        if (!egal(sauvRecepteur, "031BDN  ")) compte = ajouterErreur(compte, ERR_RECEPTEUR);
+        if (!vaut(sauvRecepteur, "031BDN  ")) compte = ajouterErreur(compte, ERR_RECEPTEUR);
     }
     if (typeEst("ABAT")) {
-        if (egal(sauvEmetteur, "NORM01  ")) {
-            if (!egal(entete(E8), "NORMABEV")) compte = ajouterErreur(compte, ERR_CORPS_ABAT);
+        if (vaut(sauvEmetteur, "NORM01  ")) {
+            if (!vaut(entete(E8), "NORMABEV")) compte = ajouterErreur(compte, ERR_CORPS_ABAT);
         } else if (!memeDebut(sauvEmetteur, "OFFICE", 6) && !memeDebut(sauvEmetteur, "ONICAB", 6)) {
             compte = ajouterErreur(compte, ERR_EMETTEUR);
         }
@@ -70,16 +81,16 @@ int reglesAdmission(int compte) {
 int regleVariante() {
     const char* const c3 = corps(C3);
     if (varianteEst("QUILVANE  ")) {
-        if (!egal(c3, "xx")) return 0;
+        if (!vaut(c3, "xx")) return 0;
         return emetteurNational() ? ERR_C3_NATIONAL : ERR_C3_LOCAL;
     }
-    const bool vide = egal(c3, "  ") || egal(c3, "10");
+    const bool vide = vaut(c3, "  ") || vaut(c3, "10");
     if (varianteEst("QUILVANED ")) return vide ? 0 : ERR_C3_VARIANTE_DL;
     if (varianteEst("QUILVANEL ")) {
-        if (emetteurNational()) return egal(c3, "20") ? 0 : ERR_C3_NATIONAL;
+        if (emetteurNational()) return vaut(c3, "20") ? 0 : ERR_C3_NATIONAL;
         return vide ? 0 : ERR_C3_VARIANTE_DL;
     }
-    if (varianteEst("QUILVANEPF")) return egal(c3, "10") || typeEst("ABAT") ? 0 : ERR_C3_VARIANTE_PF;
+    if (varianteEst("QUILVANEPF")) return vaut(c3, "10") || typeEst("ABAT") ? 0 : ERR_C3_VARIANTE_PF;
     return 0;
 }
 
@@ -87,15 +98,15 @@ int regleVariante() {
 bool admisDuPartenaire() {
     const char* const c5 = corps(C5);
     return (typeEst("INFO") && genreEst("DEM")) || (typeEst("JALO") && genreEst("CRE")) ||
-           (typeEst("ENTR") && genreEst("CRE") && egal(c5, "F")) ||
-           (typeEst("SORT") && genreEst("CRE") && (egal(c5, "S") || egal(c5, "M"))) || typeEst("ABAT");
+           (typeEst("ENTR") && genreEst("CRE") && vaut(c5, "F")) ||
+           (typeEst("SORT") && genreEst("CRE") && (vaut(c5, "S") || vaut(c5, "M"))) || typeEst("ABAT");
 }
 
 int reglesPartenaire(int compte) {
     err_aux = typeEst("ERRE") ? 0 : regleVariante();
     if (err_aux > 0) compte = ajouterErreur(compte, err_aux);
-    const bool partenaire = egal(sauvEmetteur, "000PFO  ") || egal(sauvEmetteur, "NORMABEV");
-    if (partenaire && egal(sauvRecepteur, "031BDN  ") && !admisDuPartenaire())
+    const bool partenaire = vaut(sauvEmetteur, "000PFO  ") || vaut(sauvEmetteur, "NORMABEV");
+    if (partenaire && vaut(sauvRecepteur, "031BDN  ") && !admisDuPartenaire())
         compte = ajouterErreur(compte, ERR_PARTENAIRE);
     return compte;
 }
@@ -119,7 +130,7 @@ constexpr paireVSE PAIRES[] = {{"EXP1", "EXP2", ERR_SANS_EXP2}, {"EGET", "RATA",
 
 /** The pair that the record before has opened, or null. */
 const paireVSE* paireOuverte() {
-    if (!dependanceVSE() || !egal(sauvTypeVSE, "CRE") || sauvCodeVSEerr != 0) return nullptr;
+    if (!dependanceVSE() || !vaut(sauvTypeVSE, "CRE") || sauvCodeVSEerr != 0) return nullptr;
     for (const paireVSE& p : PAIRES)
         if (egal(sauvCodeVSE, p.premier)) return &p;
     return nullptr;
@@ -130,14 +141,14 @@ void apparier(int itAiguil, int compte, int formatDuFichier) {
     existDependanceVSEerr = 0;
     if (const paireVSE* const ouverte = paireOuverte();
         ouverte != nullptr &&
-        !(typeEst(ouverte->compagnon) && genreEst("CRE") && egal(corps(C2), sauvLienVSE)))
+        !(egal(entete(E6), ouverte->compagnon) && genreEst("CRE") && egal(corps(C2), sauvLienVSE)))
         rejeterSansCompagnon(formatDuFichier);
 
-    copier(sauvCodeVSE, entete(E6), sizeof sauvCodeVSE - 1);
-    copier(sauvTypeVSE, entete(E5), sizeof sauvTypeVSE - 1);
+    copier(sauvCodeVSE, entete(E6));
+    copier(sauvTypeVSE, entete(E5));
     sauvCodeVSEerr = compte;
     if (const paireVSE* const nouvelle = paireOuverte(); nouvelle != nullptr) {
-        copier(sauvLienVSE, corps(C2), sizeof sauvLienVSE - 1);
+        copier(sauvLienVSE, corps(C2));
         faireTamponVSEERR(nouvelle->erreur, itAiguil);
     }
 }
@@ -168,10 +179,10 @@ int traiterFICH(int mode) {
     std::memcpy(valFichFinVSE, valFinVSE, sizeof valFichFinVSE);
     std::memcpy(codeFichErreur, codeErreur, MAX_ERREURS * sizeof codeErreur[0]);
     nbErreur = errFich;
-    copier(sauvEmetteur, entete(E3), sizeof sauvEmetteur - 1);
-    copier(sauvRecepteur, entete(E4), sizeof sauvRecepteur - 1);
-    copier(sauvCodeVSE, entete(E6), sizeof sauvCodeVSE - 1);
-    copier(sauvTypeVSE, entete(E5), sizeof sauvTypeVSE - 1);
+    copier(sauvEmetteur, entete(E3));
+    copier(sauvRecepteur, entete(E4));
+    copier(sauvCodeVSE, entete(E6));
+    copier(sauvTypeVSE, entete(E5));
     sauvCodeVSEerr = 0;
     finirTrace(mode);
     return nbErreur;

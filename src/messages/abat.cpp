@@ -15,8 +15,8 @@ namespace {
 struct paysAnimal {
     char code[3];
     paysAnimal() : code{carac(xdebug, 63), carac(xdebug, 64), '\0'} {}
-    bool estFR() const { return egal(code, "FR"); }
-    bool numeroEtranger() const { return !estFR() && (egal(code, "CH") || appartient_UE(code)); }
+    bool estFR() const { return vaut(code, "FR"); }
+    bool numeroEtranger() const { return !estFR() && (vaut(code, "CH") || appartient_UE(code)); }
 };
 
 }  // namespace

@@ -8,7 +8,7 @@
 namespace quilvane {
 
 int fCoherenCC_dete_dem(const char* dependance, char* champ, const void* sverif, int lenSverif) {
-    if (egal(corps(C12), "D")) return fConform3(entete(E8), champ, TDD, LenTDD);
+    if (vaut(corps(C12), "D")) return fConform3(entete(E8), champ, TDD, LenTDD);
     return fConform8(dependance, champ, sverif, lenSverif);
 }
 

@@ -27,7 +27,7 @@ int ecbo_C12(const char*, char* champ, const void* sverif, int lenSverif) {
 int ecbo_C13(const char* dependance, char* champ, const void*, int) {
     if (secondAnimalAbsent()) return 1;
     if (egal(champ, DouzeBlancs[0].valeur)) return 0;
-    return egal(dependance, "FR") || fVerifNumEtranger(dependance, champ, nullptr, 0);
+    return vaut(dependance, "FR") || fVerifNumEtranger(dependance, champ, nullptr, 0);
 }
 
 int ecbo_C15(const char*, char* champ, const void* sverif, int lenSverif) {

@@ -18,9 +18,9 @@ bool surABAT() { return memeDebut(aPartirDe(xdebug, 63), "ABAT", 4); }
 struct pays {
     char code[3];
     explicit pays(int col) : code{carac(xdebug, col), carac(xdebug, col + 1), '\0'} {}
-    bool estFR() const { return egal(code, "FR"); }
+    bool estFR() const { return vaut(code, "FR"); }
     /** "CH" or a member state. */
-    bool partenaire() const { return egal(code, "CH") || appartient_UE(code); }
+    bool partenaire() const { return vaut(code, "CH") || appartient_UE(code); }
 };
 constexpr int COL_PAYS_C6 = 84;
 constexpr int COL_PAYS_ANIMAL = 176;
@@ -32,7 +32,7 @@ int agrementOuExploitation(const char* champ) {
 
 }  // namespace
 
-int vErre_C1(const char*, char* champ, const void*, int) { return egal(champ, "ABAT"); }
+int vErre_C1(const char*, char* champ, const void*, int) { return vaut(champ, "ABAT"); }
 
 int vErre_C4(const char*, char* champ, const void*, int) { return !champVide(champ); }
 int vErre_C8(const char*, char* champ, const void*, int) { return !champVide(champ); }
@@ -40,7 +40,7 @@ int vErre_C10(const char*, char* champ, const void*, int) { return !champVide(ch
 
 int vErre_C5(const char*, char* champ, const void*, int) {
     if (surABAT() && contientBlanc(champ, 1, 2)) return 0;
-    if (!surABAT() && egal(champ, "  ")) return 1;
+    if (!surABAT() && vaut(champ, "  ")) return 1;
     return dansListe(champ, TP, LenTP);
 }
 
@@ -49,7 +49,7 @@ int vErre_C6(const char*, char* champ, const void*, int) {
     return fVerifNumEtranger(pays(COL_PAYS_C6).code, champ, nullptr, 0);
 }
 
-int vErre_C7(const char*, char* champ, const void*, int) { return egal(champ, "FR"); }
+int vErre_C7(const char*, char* champ, const void*, int) { return vaut(champ, "FR"); }
 
 int vErre_C8_conf(const char*, char* champ, const void*, int) { return agrementOuExploitation(champ); }
 int vErre_C30(const char*, char* champ, const void*, int) { return agrementOuExploitation(champ); }
@@ -58,10 +58,10 @@ int vErre_C9(const char*, char* champ, const void*, int) {
     return std::strlen(champ) == 4 && tous(champ, 1, 4, estLettreOuChiffre);
 }
 
-int vErre_C29(const char*, char* champ, const void*, int) { return champVide(champ) || egal(champ, "FR"); }
+int vErre_C29(const char*, char* champ, const void*, int) { return champVide(champ) || vaut(champ, "FR"); }
 
 int vErre_C31(const char*, char* champ, const void*, int) {
-    return egal(champ, "  ") || dansListe(champ, TP, LenTP);
+    return vaut(champ, "  ") || dansListe(champ, TP, LenTP);
 }
 
 int vErre_C32_1(const char*, char* champ, const void*, int) {
@@ -92,8 +92,8 @@ int vErre_C37_1(const char*, char* champ, const void*, int) {
     const int longueur = dernierNonBlanc(champ) + 1;
     if (longueur < 6 || contientBlanc(champ, 1, longueur)) return 0;
     if (memeDebut(aPartirDe(champ, 4), "IPG", 3)) return dansListeStricte(champ, TDC, LenTDC);
-    return memeDebut(champ, "ONICAB", 6) || memeDebut(champ, "OFFICE", 6) || egal(champ, "NORMABEV") ||
-           egal(champ, "POINTFOC");
+    return memeDebut(champ, "ONICAB", 6) || memeDebut(champ, "OFFICE", 6) || vaut(champ, "NORMABEV") ||
+           vaut(champ, "POINTFOC");
 }
 
 int vErre_C37_2(const char* dependance, char* champ, const void*, int) {

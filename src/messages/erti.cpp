@@ -8,11 +8,11 @@
 namespace quilvane {
 
 int erti_fC5(const char* dependance, char* champ, const void* sverif, int lenSverif) {
-    return egal(dependance, "V") ? dansListe(champ, listeDe(sverif), lenSverif) : egal(champ, " ");
+    return vaut(dependance, "V") ? dansListe(champ, listeDe(sverif), lenSverif) : vaut(champ, " ");
 }
 
 int erti_fC9C10(const char* dependance, char* champ, const void* sverif, int lenSverif) {
-    return egal(dependance, "M") ? dansListe(champ, listeDe(sverif), lenSverif) : egal(champ, "    ");
+    return vaut(dependance, "M") ? dansListe(champ, listeDe(sverif), lenSverif) : vaut(champ, "    ");
 }
 
 // clang-format off

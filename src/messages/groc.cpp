@@ -22,7 +22,7 @@ int groc_cre_C10_2(const char* dependance, char* champ, const void* sverif, int 
 }
 
 int groc_cre_C12(const char* dependance, char* champ, const void* sverif, int lenSverif) {
-    return dateBlanche(dependance) ? egal(champ, "      ") : fHEUREC(dependance, champ, sverif, lenSverif);
+    return dateBlanche(dependance) ? vaut(champ, "      ") : fHEUREC(dependance, champ, sverif, lenSverif);
 }
 
 // clang-format off

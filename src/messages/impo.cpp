@@ -29,7 +29,7 @@ int impo_C6_2(const char* dependance, char* champ, const void* sverif, int lenSv
 int impo_C7(const char*, char* champ, const void*, int) { return !blancs(champ, 1, 4); }
 
 int impo_C20(const char*, char* champ, const void*, int) {
-    return !egal(champ, "FR") && dansListe(champ, TP, LenTP);
+    return !vaut(champ, "FR") && dansListe(champ, TP, LenTP);
 }
 
 // clang-format off

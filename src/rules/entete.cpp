@@ -7,7 +7,7 @@ namespace quilvane {
 
 namespace {
 
-bool estFICH(const char* typeVSE) { return egal(typeVSE, "FICH"); }
+bool estFICH(const char* typeVSE) { return vaut(typeVSE, "FICH"); }
 
 /** Whether the text begins with one of the prefixes. */
 template <int N>
@@ -27,7 +27,7 @@ int listeSurFICH(const char* typeVSE, const char* champ, const void* sverif, int
 int enteteE3(const char* dependance, char* champ, const void* sverif, int lenSverif) {
     constexpr const char* NATIONAUX[] = {"OVINFOS ", "OFFICE", "ONICAB", "NORM01", "NORM02", "PFOC01"};
     if (!estFICH(dependance)) return 1;
-    return commencePar(champ, NATIONAUX) || dansListe(champ, listeDe(sverif), lenSverif);
+    return dansListe(champ, listeDe(sverif), lenSverif) || commencePar(champ, NATIONAUX);
 }
 
 int enteteE4(const char* dependance, char* champ, const void* sverif, int lenSverif) {
@@ -37,7 +37,7 @@ int enteteE4(const char* dependance, char* champ, const void* sverif, int lenSve
 int enteteE8(const char* dependance, char* champ, const void* sverif, int lenSverif) {
     constexpr const char* NATIONAUX[] = {"POINTFOC", "NORMABEV", "OVINFOS ", "OFFICE", "ONICAB"};
     if (estFICH(dependance)) return 1;
-    return commencePar(champ, NATIONAUX) || dansListe(champ, listeDe(sverif), lenSverif);
+    return dansListe(champ, listeDe(sverif), lenSverif) || commencePar(champ, NATIONAUX);
 }
 
 int enteteE9(const char* dependance, char* champ, const void* sverif, int lenSverif) {
@@ -64,13 +64,13 @@ int finF3(const char* dependance, char* champ, const void* sverif, int lenSverif
 }
 
 int fVerifDepE6(const char* dependance, char* champ, const void*, int) {
-    if (egal(dependance, "CRE")) return dansListe(champ, tE6CRE, LentE6CRE);
-    if (egal(dependance, "DEM")) return dansListe(champ, tE6DEM, LentE6DEM);
-    if (egal(dependance, "ECQ")) return 1;
-    if (egal(dependance, "EDI")) return dansListe(champ, tE6EDI, LentE6EDI);
-    if (egal(dependance, "INV")) return dansListe(champ, tE6INV, LentE6INV);
-    if (egal(dependance, "MOD")) return dansListe(champ, tE6MOD, LentE6MOD);
-    if (egal(dependance, "INF")) return dansListe(champ, tE6INF, LentE6INF);
+    if (vaut(dependance, "CRE")) return dansListe(champ, tE6CRE, LentE6CRE);
+    if (vaut(dependance, "DEM")) return dansListe(champ, tE6DEM, LentE6DEM);
+    if (vaut(dependance, "ECQ")) return 1;
+    if (vaut(dependance, "EDI")) return dansListe(champ, tE6EDI, LentE6EDI);
+    if (vaut(dependance, "INV")) return dansListe(champ, tE6INV, LentE6INV);
+    if (vaut(dependance, "MOD")) return dansListe(champ, tE6MOD, LentE6MOD);
+    if (vaut(dependance, "INF")) return dansListe(champ, tE6INF, LentE6INF);
     return 0;
 }
 

@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cstring>
 #include <limits>
 #include <string>
 #include <vector>
@@ -148,6 +150,47 @@ TEST(Lecture, ComparaisonsDeTextes) {
         EXPECT_EQ(memeDebut(a.get(), b.get(), c.n), c.memeDebut);
         EXPECT_EQ(memeDebut(b.get(), a.get(), c.n), c.memeDebut);
     }
+}
+
+TEST(Lecture, ComparaisonAvecUnLitteral) {
+    for (const char* autre :
+         {"", "E", "ER", "ERR", "ERRE ", "ERREX", "ERRF", "FRRE", "erre", "\xC5RRE", " ERRE"})
+        EXPECT_FALSE(vaut(texte(autre).get(), "ERRE")) << '"' << autre << '"';
+    EXPECT_TRUE(vaut(texte("ERRE").get(), "ERRE"));
+    EXPECT_TRUE(vaut(texte("\xE9  ").get(), "\xE9  "));
+    EXPECT_FALSE(vaut(texte("\xE9 ").get(), "\xE9  "));
+    EXPECT_TRUE(vaut(texte("").get(), ""));
+    EXPECT_FALSE(vaut(texte(" ").get(), ""));
+}
+
+/** A literal of each length against texts that differ from it at one place. */
+template <std::size_t N>
+void comparerALongueur(const char (&litteral)[N]) {
+    const std::string t = litteral;
+    EXPECT_TRUE(vaut(texte(t).get(), litteral)) << t;
+    EXPECT_FALSE(vaut(texte(t + " ").get(), litteral)) << t;
+    for (std::size_t i = 0; i < t.size(); ++i) {
+        std::string autre = t;
+        autre[i] = '\xE9';
+        EXPECT_FALSE(vaut(texte(autre).get(), litteral)) << autre;
+        EXPECT_FALSE(vaut(texte(t.substr(0, i)).get(), litteral)) << t.substr(0, i);
+    }
+}
+
+TEST(Lecture, ComparaisonAvecUnLitteralDeChaqueLongueur) {
+    comparerALongueur("");
+    comparerALongueur("S");
+    comparerALongueur("2A");
+    comparerALongueur("CRE");
+    comparerALongueur("FICH");
+    comparerALongueur("PFO01");
+    comparerALongueur("OFFICE");
+    comparerALongueur("       ");
+    comparerALongueur("NORMABEV");
+    comparerALongueur("NORMABEV ");
+    comparerALongueur("QUILVANE  ");
+    comparerALongueur("ABCDEFGHIJK");
+    comparerALongueur("            ");
 }
 
 TEST(Lecture, EntreDeuxBornesCommeTextes) {
@@ -321,6 +364,33 @@ TEST(Lecture, DateInversee) {
         EXPECT_STREQ(d.texte, c.attendu);
         d.blancsEnZeros();
         EXPECT_STREQ(d.texte, c.blancsEnZeros);
+    }
+}
+
+// The number of a date sorts as its text does, whatever bytes it holds.
+TEST(Lecture, DateInverseeOrdonne) {
+    const auto signe = [](auto a, auto b) { return a < b ? -1 : a > b ? 1 : 0; };
+    std::vector<std::string> dates = {"", "1", "15", "1503", "15031", "150319", "1503199", "        "};
+    const std::string octets = " !0129/A\x10\x30\x7F\x80\xA0\xE9\xFF";
+    for (std::size_t col = 0; col < 8; ++col)
+        for (const char c : octets) {
+            std::string d = "15031998";
+            d[col] = c;
+            dates.push_back(d);
+        }
+    for (const std::string& ta : dates) {
+        for (const std::string& tb : dates) {
+            dateInversee a(texte(ta).get());
+            dateInversee b(texte(tb).get());
+            EXPECT_EQ(signe(a.ordre, b.ordre), signe(std::strcmp(a.texte, b.texte), 0)) << ta << " / " << tb;
+            a.blancsEnZeros();
+            EXPECT_EQ(signe(a.ordre, b.ordre), signe(std::strcmp(a.texte, b.texte), 0)) << ta << " / " << tb;
+        }
+        dateInversee d(texte(ta).get());
+        std::string attendu = d.texte;
+        std::replace(attendu.begin(), attendu.end(), ' ', '0');
+        d.blancsEnZeros();
+        EXPECT_EQ(d.texte, attendu) << ta;
     }
 }
 
