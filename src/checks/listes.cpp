@@ -4,6 +4,7 @@
  */
 #include <algorithm>
 
+#include "checks/index.h"
 #include "checks/lecture.h"
 #include "checks/utils.h"
 
@@ -11,41 +12,61 @@ namespace quilvane {
 
 namespace {
 
-// National emitters whose codes pass every list-membership test.
-constexpr std::uint64_t NORMABEV = tValAutorise::cle("NORMABEV");
-constexpr std::uint64_t NORM01 = tValAutorise::cle("NORM01  ");
-constexpr std::uint64_t NORM02 = tValAutorise::cle("NORM02  ");
-constexpr std::uint64_t PFOC01 = tValAutorise::cle("PFOC01  ");
-
-/** Whether a text of first characters `cle` is one of them. */
-bool codeSpecial(const char* texte, std::uint64_t cle) {
-    const bool parmi = cle == NORMABEV || cle == NORM01 || cle == NORM02 || cle == PFOC01;
-    return parmi && texte[8] == '\0';
+/** Whether a text is one of the national emitters that belong to every list. */
+bool codeSpecial(const char* texte) {
+    if (texte[0] != 'N' && texte[0] != 'P') return false;
+    return vaut(texte, "NORMABEV") || vaut(texte, "NORM01  ") || vaut(texte, "NORM02  ") ||
+           vaut(texte, "PFOC01  ");
 }
 
-/** Membership of a text whose first characters are `cle`. */
-int chercher(const char* texte, std::uint64_t cle, const tValAutorise* liste, int nombreEntrees) {
-    const tValAutorise* const bout = liste + (nombreEntrees > 0 ? nombreEntrees : 0);
+/** The index of a list, null when it has none. */
+const indexListe* indexDe(const tValAutorise* liste, int nombreEntrees) {
+    if (nombreEntrees <= indexListe::COURTE) return nullptr;
+    for (const indexListe& index : tIndex)
+        if (index.liste == liste && index.nombre == nombreEntrees) return &index;
+    return nullptr;
+}
+
+/** Membership in a list of few entries: they differ mostly in their first
+ *  character. */
+int parcourir(const char* texte, const tValAutorise* liste, const tValAutorise* bout) {
+    for (; liste != bout; ++liste)
+        if (static_cast<char>(liste->debut) == texte[0] && egal(liste->valeur, texte)) return 1;
+    return 0;
+}
+
+/** Membership in a longer list, by the first eight characters at once. */
+int chercher(const char* texte, const tValAutorise* liste, int nombreEntrees) {
+    const std::uint64_t cle = tValAutorise::cle(texte);
+    const bool entier = cle >> 56 == 0;  // the text ends within its key
+    if (const indexListe* const index = indexDe(liste, nombreEntrees); index != nullptr)
+        return index->contient(cle) && (entier || texte[8] == '\0');
+    const tValAutorise* const bout = liste + nombreEntrees;
     const auto memeCle = [cle](const tValAutorise& entree) { return entree.debut == cle; };
     for (; (liste = std::find_if(liste, bout, memeCle)) != bout; ++liste)
-        if (egal(liste->valeur, texte)) return 1;
+        if (entier || egal(liste->valeur + 8, texte + 8)) return 1;
     return 0;
 }
 
 }  // namespace
 
 int dansListeStricte(const char* texte, const tValAutorise* liste, int nombreEntrees) {
-    return chercher(texte, tValAutorise::cle(texte), liste, nombreEntrees);
+    constexpr int PEU = 8;
+    if (nombreEntrees > PEU) return chercher(texte, liste, nombreEntrees);
+    return parcourir(texte, liste, liste + (nombreEntrees > 0 ? nombreEntrees : 0));
 }
 
 int dansListe(const char* texte, const tValAutorise* liste, int nombreEntrees) {
-    const std::uint64_t cle = tValAutorise::cle(texte);
-    return codeSpecial(texte, cle) || chercher(texte, cle, liste, nombreEntrees);
+    return codeSpecial(texte) || dansListeStricte(texte, liste, nombreEntrees);
 }
 
 int debutDansListe(const char* texte, const tValAutorise* liste, int nombreEntrees, int n) {
     const std::uint64_t masque = n >= 8 ? ~std::uint64_t{0} : (std::uint64_t{1} << (8 * n)) - 1;
     const std::uint64_t debut = tValAutorise::cle(texte) & masque;
+    // Entries that the cut leaves whole can be looked up by what is left of the text.
+    if (const indexListe* const index = indexDe(liste, nombreEntrees);
+        index != nullptr && index->largeur <= n)
+        return index->contient(debut);
     return std::any_of(liste, liste + (nombreEntrees > 0 ? nombreEntrees : 0),
                        [=](const tValAutorise& entree) { return (entree.debut & masque) == debut; });
 }

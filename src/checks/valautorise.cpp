@@ -4,7 +4,9 @@
  * too few does not compile), its width by the assertion below it: every entry
  * has the exact width of its field.
  */
-#include "rules/pack.h"
+#include <algorithm>
+
+#include "checks/index.h"
 
 namespace quilvane {
 
@@ -781,5 +783,12 @@ constexpr tValAutorise TEDC[90][2] = {
 static_assert(largeurPaires(TEDC) == 8);
 
 // clang-format on
+
+constexpr indexListe tIndex[NB_INDEX] = {
+    indexListe(TD),  indexListe(TDC),   indexListe(TP),       indexListe(TR),       indexListe(TDD),
+    indexListe(TRG), indexListe(TRFNV), indexListe(TCPNOCEE), indexListe(TCPNOECH),
+};
+// An entry is known by its first eight characters.
+static_assert(std::all_of(tIndex, tIndex + NB_INDEX, [](const indexListe& i) { return i.largeur <= 8; }));
 
 }  // namespace quilvane

@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <fstream>
+#include <iterator>
 #include <map>
 #include <set>
 #include <sstream>
@@ -15,6 +16,7 @@
 #include <utility>
 #include <vector>
 
+#include "checks/index.h"
 #include "checks/utils.h"
 #include "support/champ.h"
 
@@ -550,6 +552,62 @@ TEST(ValautoriseMembres, ToutesLesPairesDeCaracteres) {
                 ASSERT_EQ(dansListe(t.c_str(), l.liste, l.len) != 0, membres.count(t) == 1)
                     << l.nom << ' ' << t;
             }
+    }
+}
+
+// ------------------------------------------------- index of the long lists
+
+TEST(ValautoriseIndex, LesListesLonguesEnOntUn) {
+    // Rows of two and of three, which are not searched entry by entry.
+    const std::set<std::string> rangees = {"NEV", "IND_M"};
+    std::set<std::string> longues;
+    std::set<std::string> indexees;
+    for (const listeNommee& l : toutes()) {
+        if (l.len > indexListe::COURTE && rangees.count(l.nom) == 0) longues.insert(l.nom);
+        for (const indexListe& index : tIndex)
+            if (index.liste == l.liste && index.nombre == l.len) indexees.insert(l.nom);
+    }
+    EXPECT_EQ(indexees, longues);
+    EXPECT_EQ(indexees.size(), std::size(tIndex));
+}
+
+TEST(ValautoriseIndex, UnePlaceParEntree) {
+    for (const indexListe& index : tIndex) {
+        SCOPED_TRACE(index.liste[0].valeur);
+        std::multiset<int> places(std::begin(index.places), std::end(index.places));
+        EXPECT_EQ(places.count(0), indexListe::TAILLE - static_cast<unsigned>(index.nombre));
+        for (int i = 0; i < index.nombre; ++i) {
+            EXPECT_EQ(places.count(i + 1), 1U) << i;
+            EXPECT_TRUE(index.contient(index.liste[i].debut)) << i;
+            EXPECT_FALSE(index.contient(~index.liste[i].debut)) << i;
+            EXPECT_EQ(static_cast<int>(std::string(index.liste[i].valeur).size()), index.largeur) << i;
+        }
+    }
+}
+
+// What lies by the first characters is the same whether the list is read or
+// looked up, and also when it is shorter than its index says.
+TEST(ValautoriseIndex, DebutsCommeEnLisant) {
+    for (const indexListe& index : tIndex) {
+        const auto essayer = [&](const std::string& t, int n) {
+            for (const int nombre : {index.nombre, index.nombre - 1}) {
+                const std::string debut = t.substr(0, static_cast<std::size_t>(n));
+                bool attendu = false;
+                for (int i = 0; i < nombre; ++i)
+                    attendu =
+                        attendu ||
+                        std::string(index.liste[i].valeur).substr(0, static_cast<std::size_t>(n)) == debut;
+                ASSERT_EQ(debutDansListe(t.c_str(), index.liste, nombre, n) != 0, attendu)
+                    << index.liste[0].valeur << '/' << nombre << ' ' << t << ' ' << n;
+            }
+        };
+        for (int i = 0; i < index.nombre; ++i) {
+            const std::string membre = index.liste[i].valeur;
+            for (int n = 0; n <= 8; ++n)
+                for (const std::string& t :
+                     {membre, membre + "X", membre.substr(1), "X" + membre, std::string()})
+                    essayer(t, n);
+        }
     }
 }
 
