@@ -61,7 +61,7 @@ void initialiserEtat() {
     std::memset(codeErreur, 0, sizeof codeErreur);
     std::memset(bufC11, 0, sizeof bufC11);
     std::memset(&cp, 0, sizeof cp);
-    xdebug[0] = '\0';
+    std::memset(xdebug, 0, sizeof xdebug);
     nbErreur = 0;
     codCaract = 0;
     codLong = 0;

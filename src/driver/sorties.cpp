@@ -205,9 +205,7 @@ void faireVSEFICHNok(int nombreDeVSE, int nbVSE_Err) {
 }
 
 void affichageVSE(const char* tampon, int mode) {
-    const std::size_t n = strnlen(tampon, sizeof xdebug - 1);
-    std::memmove(xdebug, tampon, n);
-    xdebug[n] = '\0';
+    retenirVSE(tampon);
     if (mode == VISU_DECRIPTEE) std::printf("VSE=|%s|\n", xdebug);
 }
 

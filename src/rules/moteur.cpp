@@ -27,18 +27,15 @@ constexpr texteLatin1 MSG_CARACTERE("VSE  cars non autorisés \n");
 /** The presence column of a transaction kind, null when no column is its own. */
 using colonne = int sCorps::*;
 colonne colonneDuGenre(const char* genre) {
-    struct ligne {
-        const char* genre;
-        colonne code;
-    };
-    constexpr ligne GENRES[] = {
-        {"CRE", &sCorps::typeCRE}, {"DEM", &sCorps::typeDEM},
-        {"INV", &sCorps::typeINV}, {"EDI", &sCorps::typeEDI},
-        {"MOD", &sCorps::typeMOD}, {"ECQ", &sCorps::typeCRE},  // an error return is read as a creation
-    };
-    for (const ligne& l : GENRES)
-        if (egal(genre, l.genre)) return l.code;
-    return nullptr;
+    switch (tValAutorise::cle(genre)) {
+        case tValAutorise::cle("CRE"):
+        case tValAutorise::cle("ECQ"): return &sCorps::typeCRE;  // an error return is read as a creation
+        case tValAutorise::cle("DEM"): return &sCorps::typeDEM;
+        case tValAutorise::cle("INV"): return &sCorps::typeINV;
+        case tValAutorise::cle("EDI"): return &sCorps::typeEDI;
+        case tValAutorise::cle("MOD"): return &sCorps::typeMOD;
+        default: return nullptr;
+    }
 }
 
 /** Framing faults of the record; a fault is reset once it is stored. */
@@ -102,25 +99,22 @@ int appliquer(const tableAppliquee& t, int compte) {
 }  // namespace
 
 void getvseChamps(const sCorps* tCorps, int lCorps, const char* tampon, valeurVSE* tValVSE, int visu) {
-    const auto longueur = static_cast<int>(strnlen(tampon, TAILLE_XDEBUG - 1));
-    if (tampon != xdebug) {
-        std::memmove(xdebug, tampon, static_cast<std::size_t>(longueur));
-        xdebug[longueur] = '\0';
-    }
-
-    constexpr int PETIT = 16;  // fields up to this width are copied in one piece
-    static_assert(DERNIERE_COL_CORPS + PETIT < TAILLE_XDEBUG && LARGEUR_VSE + PETIT < TAILLE_XDEBUG);
+    if (tampon != xdebug) retenirVSE(tampon);
+    // A field that reaches into columns that a short record lacks ends at their
+    // zeros, and one behind them is empty: all are cut in their full width.
+    // Few fields are wider than a step; what a step copies too much lies behind
+    // the terminator, inside `xdebug` and inside the slot.
+    constexpr int PAS = 16;
+    static_assert(LARGEUR_VSE % PAS == 0 && LARGEUR_VSE + PAS <= TAILLE_XDEBUG);
     for (const sCorps* ligne = tCorps; ligne != tCorps + lCorps; ++ligne) {
         if (ligne->fin == 0) continue;
         char* const valeur = (tValVSE++)->valeur;
-        const int avant = ligne->debut - 1;
-        int n = ligne->fin - avant;
-        if (n > longueur - avant) n = longueur > avant ? longueur - avant : 0;
-        if (n > PETIT)
-            std::memcpy(valeur, xdebug + avant, static_cast<std::size_t>(n));
-        else
-            std::memcpy(valeur, xdebug + avant, PETIT);
-        valeur[n] = '\0';
+        const char* const colonnes = xdebug + ligne->debut - 1;
+        const int largeur = ligne->fin - ligne->debut + 1;
+        std::memcpy(valeur, colonnes, PAS);
+        for (int i = PAS; i < largeur; i += PAS)
+            std::memcpy(valeur + i, colonnes + i, PAS);
+        valeur[largeur] = '\0';
     }
     if (visu == VISU_DECRIPTEE) std::fputc('\n', stdout);
 }

@@ -23,6 +23,13 @@ constinit int codLong = 0;
 constinit char bufC11[32] = {};
 constinit vseCorps cp = {};
 
+void retenirVSE(const char* tampon) {
+    const std::size_t longueur = strnlen(tampon, TAILLE_XDEBUG - 1);
+    std::memmove(xdebug, tampon, longueur);
+    xdebug[longueur] = '\0';
+    if (longueur < LARGEUR_VSE) std::memset(xdebug + longueur, 0, LARGEUR_VSE - longueur);
+}
+
 int ajouterErreur(int compte, int numero) {
     if (compte >= MAX_ERREURS) return compte;
     codeErreur[compte] = numero;

@@ -83,9 +83,13 @@ inline constexpr const char* aucune = "";
 
 /** Size of `xdebug`, terminator included. */
 inline constexpr int TAILLE_XDEBUG = 4096;
-/** The record being processed, up to its first zero byte. Written by the
- *  record stream and by `getvseChamps`; read by checks that look at columns. */
+/** The record being processed, up to its first zero byte; columns that a short
+ *  record lacks hold zeros. Written by `retenirVSE`; read by the engine and by
+ *  checks that look at columns. */
 extern char xdebug[TAILLE_XDEBUG];
+
+/** Makes `tampon` (at most `TAILLE_XDEBUG` - 1 characters) the record in `xdebug`. */
+void retenirVSE(const char* tampon);
 
 /** Error numbers of the current record in the order found. Written by
  *  `ajouterErreur`; cleared by record processing at each record. */

@@ -136,6 +136,22 @@ TEST_F(Moteur, UnRecordCourtDonneDesChampsCourts) {
     }
 }
 
+TEST_F(Moteur, LeRecordGardeSeCoupeSansEtreDonneEncore) {
+    const std::vector<sCorps> table = {ligne(0, 1, 10, nullptr, 0), ligne(1, 11, 40, nullptr, 0),
+                                       ligne(2, 41, 256, nullptr, 0)};
+    retenirVSE(alphabet(256).c_str());
+    for (const int n : {256, 60, 25, 5, 0}) {  // each shorter than the one before
+        SCOPED_TRACE(n);
+        const std::string r = alphabet(n);
+        retenirVSE(r.c_str());
+        getvseChamps(table.data(), 3, xdebug, slots, VISU_AUCUNE);
+        EXPECT_EQ(slots[0].valeur, r.substr(0, 10));
+        EXPECT_EQ(slots[1].valeur, n > 10 ? r.substr(10, 30) : "");
+        EXPECT_EQ(slots[2].valeur, n > 40 ? r.substr(40) : "");
+        EXPECT_EQ(xdebug, r);
+    }
+}
+
 TEST_F(Moteur, ToutesLesLargeurs) {
     const std::string r = alphabet(256);
     for (int debut = 1; debut <= 256; ++debut) {

@@ -130,6 +130,24 @@ TEST(Pack, DixErreursAuPlus) {
     nbErreur = 0;
 }
 
+// ------------------------------------------------------- the record kept
+
+TEST(Pack, LesColonnesQuiManquentSontDesZeros) {
+    for (const std::size_t n : {0U, 1U, 15U, 16U, 17U, 137U, 255U, 256U, 300U, 4095U, 5000U}) {
+        std::memset(xdebug, '~', sizeof xdebug);
+        const std::string r(n, 'r');
+        retenirVSE(r.c_str());
+        const std::size_t garde = std::min<std::size_t>(n, sizeof xdebug - 1);
+        EXPECT_EQ(std::string(xdebug), r.substr(0, garde)) << n;
+        for (std::size_t i = garde; i < 256; ++i)
+            EXPECT_EQ(xdebug[i], '\0') << n << " column " << i + 1;
+    }
+    retenirVSE("ancien");
+    retenirVSE(xdebug + 2);  // also out of itself
+    EXPECT_STREQ(xdebug, "cien");
+    retenirVSE("");
+}
+
 // ---------------------------------------- the second cut of slaughter notices
 
 TEST(Pack, ExtraitParColonnes) {
