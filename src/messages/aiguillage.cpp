@@ -1,6 +1,8 @@
 #include "messages/aiguillage.h"
 
-#include "checks/lecture.h"
+#include <algorithm>
+#include <array>
+
 #include "messages/messages.h"
 
 namespace quilvane {
@@ -40,10 +42,22 @@ constexpr sAiguillage tAiguillage[LEN_AIGUILLAGE] = {
 // clang-format on
 static_assert(tAiguillage[ERR_AIGUILLAGE].code == CODE_INCONNU && ERR_AIGUILLAGE == LEN_AIGUILLAGE - 1);
 
+namespace {
+
+/** The types packed into numbers, so that a search reads no text. They are
+ *  shorter than eight characters: equal keys are equal texts. */
+constexpr std::array<std::uint64_t, LEN_AIGUILLAGE> CLES = [] {
+    std::array<std::uint64_t, LEN_AIGUILLAGE> cles{};
+    for (std::size_t i = 0; i < cles.size(); ++i)
+        cles[i] = tValAutorise::cle(tAiguillage[i].nomVSE);
+    return cles;
+}();
+
+}  // namespace
+
 int aiguiller(const char* typeVSE) {
-    for (int i = 0; i < LEN_AIGUILLAGE; ++i)
-        if (egal(typeVSE, tAiguillage[i].nomVSE)) return i;
-    return ERR_AIGUILLAGE;
+    const auto trouve = std::find(CLES.begin(), CLES.end(), tValAutorise::cle(typeVSE));
+    return trouve != CLES.end() ? static_cast<int>(trouve - CLES.begin()) : ERR_AIGUILLAGE;
 }
 
 }  // namespace quilvane

@@ -121,8 +121,8 @@ TEST(Aiguillage, ChaqueTypeTrouveSaLigne) {
 }
 
 TEST(Aiguillage, ToutAutreTexteFinitSurLaDerniereLigne) {
-    for (const char* type :
-         {"AVER", "LIST", "FICH", "entr", "Entr", "ENT", "ENTR ", " ENTR", "ENTRE", "", "    ", "ZZZ"})
+    for (const char* type : {"AVER", "LIST", "FICH", "entr", "Entr", "ENT", "ENTR ", " ENTR", "ENTRE", "",
+                             "    ", "ZZZ", "ENTR    ", "ENTRENTR", "ENTRENTRE"})
         EXPECT_EQ(aiguiller(type), 27) << "'" << type << "'";
 }
 
