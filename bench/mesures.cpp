@@ -29,6 +29,7 @@ struct depart {
         faireVSEDate(VSEDate);
         fp_emis = std::fopen("/dev/null", "w");
         fp_erre = std::fopen("/dev/null", "w");
+        preparerSorties();
     }
     ~depart() {
         std::fclose(fp_emis);

@@ -26,10 +26,9 @@ namespace quilvane {
 
 namespace {
 
-constexpr int NB_FICHIERS = 3;                // file arguments
-constexpr int MAX_NOMBRE_VSE = 10002;         // counter value after 10000 messages and the FICH record
-constexpr std::size_t TAILLE_BLOC = 1 << 16;  // bytes written at a time
-constexpr int ERR_NOMBRE_VSE = 100;           // count in the FICH record is wrong
+constexpr int NB_FICHIERS = 3;         // file arguments
+constexpr int MAX_NOMBRE_VSE = 10002;  // counter value after 10000 messages and the FICH record
+constexpr int ERR_NOMBRE_VSE = 100;    // count in the FICH record is wrong
 
 constexpr texteLatin1 USAGE(
     "\n Usage : quilvane [-i|-d|-v] <fichier a traiter> <fichier a emettre> <fichier log>\n \n"
@@ -254,9 +253,7 @@ int quilvane(int argc, char* const argv[]) {
     jetonDuNom(argv[1], bufC11, sizeof bufC11);
 
     if (!ouvrirFichiers()) return STATUT_FATAL;
-    static char tampons[2][TAILLE_BLOC];
-    std::setvbuf(fp_emis, tampons[0], _IOFBF, TAILLE_BLOC);
-    std::setvbuf(fp_erre, tampons[1], _IOFBF, TAILLE_BLOC);
+    preparerSorties();
     reserverVSEFICH(fp_emis);
     reserverVSEFICH(fp_erre);
     nbErreur = 0;

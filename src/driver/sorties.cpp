@@ -1,5 +1,7 @@
 #include "driver/sorties.h"
 
+#include <stdio_ext.h>
+
 #include <cstring>
 
 #include "calendar/horloge.h"
@@ -23,7 +25,16 @@ constexpr int LARGEUR_CODE = 5;   // "I%03d1"
  *  record is that wide. */
 struct ligneVSE {
     ligneVSE& texte(const char* t) { return octets(t, std::strlen(t)); }
-    ligneVSE& champ(const valeurVSE& v) { return texte(v.valeur); }
+    ligneVSE& champ(const valeurVSE& v) {
+        // Few fields are wider than a step; what is copied too much is written
+        // over by what follows.
+        constexpr std::size_t PAS = 16;
+        const std::size_t n = std::strlen(v.valeur);
+        if (n > PAS || sizeof tampon - longueur < PAS) return octets(v.valeur, n);
+        std::memcpy(tampon + longueur, v.valeur, PAS);
+        longueur += n;
+        return *this;
+    }
     ligneVSE& blancs(int n) {
         const std::size_t place = reste(n > 0 ? static_cast<std::size_t>(n) : 0);
         std::memset(tampon + longueur, ' ', place);
@@ -55,7 +66,7 @@ struct ligneVSE {
     }
     /** `n`, or what still fits. */
     std::size_t reste(std::size_t n) const {
-        return n < sizeof tampon - longueur ? n : sizeof tampon - longueur;
+        return n <= sizeof tampon - longueur ? n : sizeof tampon - longueur;
     }
 
     char tampon[4 * LARGEUR_VSE];
@@ -63,7 +74,7 @@ struct ligneVSE {
 };
 
 bool estRetourECQ(const valeurVSE* enteteVSE) {
-    return egal(enteteVSE[E6].valeur, "ERRE") && egal(enteteVSE[E5].valeur, "ECQ");
+    return vaut(enteteVSE[E6].valeur, "ERRE") && vaut(enteteVSE[E5].valeur, "ECQ");
 }
 
 /** The ERRE record of a record in error. */
@@ -121,11 +132,18 @@ void faireVSEDate(char* tampon) {
     tampon[n] = '\0';
 }
 
+void preparerSorties() {
+    constexpr std::size_t TAILLE_BLOC = 1 << 16;
+    static char blocs[2][TAILLE_BLOC];
+    std::setvbuf(fp_emis, blocs[0], _IOFBF, TAILLE_BLOC);
+    std::setvbuf(fp_erre, blocs[1], _IOFBF, TAILLE_BLOC);
+    __fsetlocking(fp_emis, FSETLOCKING_BYCALLER);
+    __fsetlocking(fp_erre, FSETLOCKING_BYCALLER);
+}
+
 void faireFinDeLigne(std::FILE* fp, int formatDeFichier) {
-    const char* const fin = formatDeFichier == CVERSE_DOS   ? "\r\n"
-                            : formatDeFichier == CVERSE_MAC ? "\r"
-                                                            : "\n";
-    std::fwrite(fin, 1, std::strlen(fin), fp);
+    if (formatDeFichier == CVERSE_DOS || formatDeFichier == CVERSE_MAC) std::putc('\r', fp);
+    if (formatDeFichier != CVERSE_MAC) std::putc('\n', fp);
 }
 
 void reserverVSEFICH(std::FILE* fp) { ligneVSE().blancs(LARGEUR_VSE).ecrire(fp); }

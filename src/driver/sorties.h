@@ -16,6 +16,10 @@ namespace quilvane {
  *  date DDMMYYYY and time HHMMSS, "025", eight blanks and "*". */
 void faireVSEDate(char* tampon);
 
+/** Has the output and error files, just opened, written in large blocks and
+ *  without locks: one thread writes. */
+void preparerSorties();
+
 /** Writes the line end of the input's format: `CVERSE_DOS` CR LF,
  *  `CVERSE_UNIX` LF, `CVERSE_MAC` CR, anything else LF. */
 void faireFinDeLigne(std::FILE* fp, int formatDeFichier);

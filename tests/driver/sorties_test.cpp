@@ -1,6 +1,7 @@
 #include "driver/sorties.h"
 
 #include <gtest/gtest.h>
+#include <stdio_ext.h>
 
 #include <cstring>
 #include <string>
@@ -196,6 +197,23 @@ TEST_F(Sorties, VSEERRDeChampsCourts) {
     EXPECT_EQ(sauvTamponVSE, attendue);
 }
 
+// No record holds fields that wide; what would not fit is left out.
+TEST_F(Sorties, VSEERRDeChampsTropLarges) {
+    for (std::size_t large = 200; large <= 256; ++large) {
+        SCOPED_TRACE(large);
+        for (const numEnteteVSE champ : {E1, E2, E4})
+            remplir(valEnteteVSE[champ], std::string(256, 'x'));
+        remplir(valEnteteVSE[E3], std::string(large, 'y'));
+        remplir(valEnteteVSE[E7], std::string(large % 18, '7'));
+        remplir(valEnteteVSE[E9], "99999999");
+        const std::string debut = std::string(768, 'x') + std::string(large, 'y') + "ERRERRE" +
+                                  std::string(large % 18, '7') + "INTERFAC99999999089ARS  ";
+        const std::string e = erreurs("FR", "78123456    ", {31});
+        EXPECT_EQ(e.size(), 1024U);
+        EXPECT_EQ(e.substr(0, debut.size()), debut.substr(0, e.size()));
+    }
+}
+
 TEST_F(Sorties, ClesParLigneDAiguillage) {
     const struct {
         const char* typeVSE;
@@ -368,6 +386,19 @@ TEST_F(Sorties, FinDeLigneParFormat) {
     EXPECT_EQ(CVERSE_DOS, 1);
     EXPECT_EQ(CVERSE_UNIX, 2);
     EXPECT_EQ(CVERSE_MAC, 3);
+}
+
+TEST_F(Sorties, GrandsBlocsSansVerrou) {
+    preparerSorties();
+    for (std::FILE* const fp : {fp_emis, fp_erre}) {
+        EXPECT_EQ(__fbufsize(fp), 65536U);
+        EXPECT_EQ(__fsetlocking(fp, FSETLOCKING_QUERY), FSETLOCKING_BYCALLER);
+    }
+    // Each its own block: what one writes is not the other's.
+    std::fputs("emis", fp_emis);
+    std::fputs("erre", fp_erre);
+    EXPECT_EQ(contenu(fp_emis), "emis");
+    EXPECT_EQ(contenu(fp_erre), "erre");
 }
 
 TEST_F(Sorties, EstampilleDuMoment) {
