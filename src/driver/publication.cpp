@@ -32,16 +32,8 @@ constexpr texteLatin1 MSG_IG015("IG015: Présence de VSE de longueur nulle");
 constexpr texteLatin1 MSG_I073("I073 : Plus de 10000 enregistrements dans le fichier");
 constexpr texteLatin1 MSG_I099("I099 : Donnée absente : numéro du fichier émis");
 
-bool memeFichier(const struct stat& a, const struct stat& b) {
+bool memeNoeud(const struct stat& a, const struct stat& b) {
     return a.st_dev == b.st_dev && a.st_ino == b.st_ino;
-}
-
-/** Whether a name, itself or as a link, denotes the input, which now has the
- *  name `entree`. */
-bool estEntree(const char* nom, const char* entree) {
-    struct stat a;
-    struct stat b;
-    return stat(entree, &a) == 0 && stat(nom, &b) == 0 && memeFichier(a, b);
 }
 
 /** Gives the input back and clears the rest; false when it cannot be given
@@ -56,7 +48,7 @@ bool rendreEntree() {
         return false;
     }
     for (const char* nom : {name_tmp_emis, name_emis, name_erre})
-        if (!estEntree(nom, name_recu)) std::remove(nom);
+        if (!memeFichier(nom, name_recu)) std::remove(nom);
     return true;
 }
 
@@ -74,6 +66,12 @@ constexpr const char* IG014 = MSG_IG014;
 constexpr const char* IG015 = MSG_IG015;
 constexpr const char* I073 = MSG_I073;
 constexpr const char* I099 = MSG_I099;
+
+bool memeFichier(const char* nom, const char* autre) {
+    struct stat a;
+    struct stat b;
+    return stat(nom, &a) == 0 && stat(autre, &b) == 0 && memeNoeud(a, b);
+}
 
 int fermer(std::FILE*& fp) {
     if (fp == nullptr) return 1;
@@ -103,7 +101,7 @@ void consigner(const char* erreur, std::FILE* fp) {
 int emettre(const char* name_emettre) {
     // An output name that denotes the input is replaced by the renaming alone,
     // so that there is no moment at which neither exists.
-    if (!estEntree(name_emis, name_tmp_recu)) std::remove(name_emis);
+    if (!memeFichier(name_emis, name_tmp_recu)) std::remove(name_emis);
     return std::rename(name_emettre, name_emis) == 0 ? 0 : renoncer();
 }
 
@@ -111,7 +109,7 @@ void retirerTravail(const char* nom) {
     // The name itself is compared: a link to the result may go.
     struct stat resultat;
     struct stat autre;
-    if (stat(name_emis, &resultat) == 0 && lstat(nom, &autre) == 0 && memeFichier(resultat, autre)) return;
+    if (stat(name_emis, &resultat) == 0 && lstat(nom, &autre) == 0 && memeNoeud(resultat, autre)) return;
     std::remove(nom);
 }
 

@@ -23,6 +23,9 @@ extern const char* const IG015;  // empty line
 extern const char* const I073;   // more than 10000 records
 extern const char* const I099;   // FICH file number blank
 
+/** Whether two names, themselves or as links, denote one file. */
+bool memeFichier(const char* nom, const char* autre);
+
 /** Closes the input, output and error files that are open; the log stays open. */
 void fermerFichiers();
 

@@ -95,13 +95,11 @@ bool echec(const char* message, const char* erreur) {
     return false;
 }
 
-/** Whether the output name denotes the very file that is being read. Emptying
- *  it would empty the input. */
-bool sortieEstEntree() {
-    struct stat entree;
+/** Whether the output name is a symbolic link to the input. Once the input is
+ *  renamed, opening the link would make an empty file under the input's name. */
+bool sortieEstLienVersEntree() {
     struct stat sortie;
-    return fstat(fileno(fp_recu), &entree) == 0 && stat(name_emis, &sortie) == 0 &&
-           entree.st_dev == sortie.st_dev && entree.st_ino == sortie.st_ino;
+    return memeFichier(name_emis, name_recu) && lstat(name_emis, &sortie) == 0 && S_ISLNK(sortie.st_mode);
 }
 
 /** Opens the four files in their order; false when one cannot be. */
@@ -117,15 +115,19 @@ bool ouvrirFichiers() {
     if (essai == nullptr) return echec(OUVERTURE_RECU, IG003);
     fermer(essai);
 
+    const bool lienVersEntree = sortieEstLienVersEntree();
     name_tmp_recu = nomAlloue(dir_name_recu, fic_name_recu, "_r", MSG_MEMOIRE_RECU);
     if (std::rename(name_recu, name_tmp_recu) != 0) return echec("rename", IG009);
 
     fp_recu = std::fopen(name_tmp_recu, "rb");
     if (fp_recu == nullptr) return echec(OUVERTURE_TMP_RECU, IG003);
 
-    essai = std::fopen(name_emis, sortieEstEntree() ? "a" : "w");
-    if (essai == nullptr) return echec(OUVERTURE_EMIS, IG003);
-    fermer(essai);
+    if (!lienVersEntree) {
+        // An output name that denotes the input must not empty it.
+        essai = std::fopen(name_emis, memeFichier(name_emis, name_tmp_recu) ? "a" : "w");
+        if (essai == nullptr) return echec(OUVERTURE_EMIS, IG003);
+        fermer(essai);
+    }
 
     name_tmp_emis = nomAlloue(dir_name_emis, fic_name_recu, "_e", MSG_MEMOIRE_EMIS);
     fp_emis = std::fopen(name_tmp_emis, "w");

@@ -640,13 +640,40 @@ TEST(Cycle, SortieEstUnLienVersLEntree) {
         fs::create_symlink("in", d.nom("out"));
         EXPECT_EQ(lancer(d, TROIS).statut, statut);
         EXPECT_FALSE(fs::is_symlink(d.nom("out")));
-        EXPECT_EQ(d.lire("out"), resultatEmis);
+        EXPECT_EQ(d.contenu(), (contenu{{"out", resultatEmis}, {"log", ""}}));
     }
     const dossier d;
     d.ecrire("in", FATAL);
     fs::create_symlink("in", d.nom("out"));
     EXPECT_EQ(lancer(d, TROIS).statut, 1);
     EXPECT_EQ(d.contenu(), (contenu{{"in", FATAL}, {"out", FATAL}, {"log", ligneLog(LOG_IG011)}}));
+}
+
+TEST(Cycle, SortieEstUnAutreLien) {
+    struct cas {
+        const char* nom;
+        const char* entree;  // where the input's name leads, null: it is the file
+        const char* sortie;  // where the output's name leads
+        const char* reste;   // file that stays beside the result
+        std::string octets;
+    };
+    for (const cas& c : {cas{"to another file, which is emptied", nullptr, "autre", "autre", ""},
+                         cas{"to a file that is made", nullptr, "nouveau", "nouveau", ""},
+                         cas{"both to one file, which is only read", "donnees", "donnees", "donnees", BON}}) {
+        SCOPED_TRACE(c.nom);
+        const dossier d;
+        d.ecrire("autre", "ancien");
+        d.ecrire(c.entree != nullptr ? c.entree : "in", BON);
+        if (c.entree != nullptr) fs::create_symlink(c.entree, d.nom("in"));
+        fs::create_symlink(c.sortie, d.nom("out"));
+        const resultat r = lancer(d, TROIS);
+        EXPECT_EQ(r.statut, 0);
+        EXPECT_EQ(r.erreur, "");
+        EXPECT_FALSE(fs::is_symlink(d.nom("out")));
+        contenu attendu = {{"autre", "ancien"}, {"out", EMIS}, {"log", ""}};
+        attendu[c.reste] = c.octets;
+        EXPECT_EQ(d.contenu(), attendu);
+    }
 }
 
 TEST(Cycle, LeLogNeContientQueLaDerniereCourse) {
