@@ -108,6 +108,10 @@ bool ouvrirFichiers() {
     const texteAlloue dir_name_emis(nomDuRep(name_emis));
     const texteAlloue fic_name_recu(nomDuFic(name_recu));
 
+    if (memeFichier(name_log, name_recu)) {  // opening it would empty the input
+        errno = EEXIST;
+        return echec(OUVERTURE_LOG, IG001);
+    }
     fp_log = std::fopen(name_log, "w");
     if (fp_log == nullptr) return echec(OUVERTURE_LOG, IG001);
 

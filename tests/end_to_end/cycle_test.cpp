@@ -700,6 +700,27 @@ TEST(Cycle, LogSousLeNomDeLaSortie) {
     }
 }
 
+TEST(Cycle, LogQuiDesigneLEntree) {
+    const auto lien = [](const dossier& d) { fs::create_symlink("in", d.nom("log")); };
+    const auto lienDur = [](const dossier& d) { fs::create_hard_link(d.nom("in"), d.nom("log")); };
+    const auto rien = [](const dossier&) {};
+    for (const auto& [nom, preparer] :
+         std::vector<std::pair<const char*, std::function<void(const dossier&)>>>{
+             {"in", rien}, {"./in", rien}, {"log", lien}, {"log", lienDur}}) {
+        SCOPED_TRACE(nom);
+        const dossier d;
+        d.ecrire("in", BON);
+        d.ecrire("out", "ancien");
+        preparer(d);
+        const contenu avant = d.contenu();
+        const resultat r = lancer(d, {"in", "out", nom});
+        EXPECT_EQ(r.statut, 1);
+        EXPECT_EQ(r.sortie, "");
+        EXPECT_EQ(r.erreur, "Ouverture du fichier log: File exists\n");
+        EXPECT_EQ(d.contenu(), avant);
+    }
+}
+
 TEST(Cycle, LaConsoleNeChangePasLesFichiers) {
     for (const char* option : {"-i", "-d"}) {
         for (const auto& [octets, statut, resultatEmis] :
