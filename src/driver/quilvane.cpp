@@ -99,7 +99,7 @@ bool echec(const char* message, const char* erreur) {
  *  renamed, opening the link would make an empty file under the input's name. */
 bool sortieEstLienVersEntree() {
     struct stat sortie;
-    return memeFichier(name_emis, name_recu) && lstat(name_emis, &sortie) == 0 && S_ISLNK(sortie.st_mode);
+    return lstat(name_emis, &sortie) == 0 && S_ISLNK(sortie.st_mode) && memeFichier(name_emis, name_recu);
 }
 
 /** Opens the four files in their order; false when one cannot be. */
