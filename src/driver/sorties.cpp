@@ -35,10 +35,10 @@ struct ligneVSE {
         longueur += n;
         return *this;
     }
-    ligneVSE& blancs(int n) {
-        const std::size_t place = reste(n > 0 ? static_cast<std::size_t>(n) : 0);
-        std::memset(tampon + longueur, ' ', place);
-        longueur += place;
+    ligneVSE& blancs(std::size_t n) {
+        n = reste(n);
+        std::memset(tampon + longueur, ' ', n);
+        longueur += n;
         return *this;
     }
     ligneVSE& code(int numero) {
@@ -77,7 +77,7 @@ bool estRetourECQ(const valeurVSE* enteteVSE) {
     return vaut(enteteVSE[E6].valeur, "ERRE") && vaut(enteteVSE[E5].valeur, "ECQ");
 }
 
-/** The ERRE record of a record in error. */
+/** The ERRE record of a record in error, with 0 to 10 codes. */
 ligneVSE vseERR(const char* champC7, const char* champC8, int nbCodes, const valeurVSE* e, const valeurVSE* c,
                 const int* codes) {
     ligneVSE l;
@@ -90,7 +90,7 @@ ligneVSE vseERR(const char* champC7, const char* champC8, int nbCodes, const val
     l.blancs(2).blancs(12).texte(champC7).texte(champC8);
     for (int i = 0; i < nbCodes; ++i)
         l.code(codes[i]);
-    l.blancs(ZONE_CODES - LARGEUR_CODE * nbCodes).texte(VSEDate);
+    l.blancs(static_cast<std::size_t>(ZONE_CODES - LARGEUR_CODE * nbCodes)).texte(VSEDate);
     return l;
 }
 

@@ -13,11 +13,9 @@ namespace quilvane {
 
 // ---------------------------------------------------------------- layout
 
-/** Columns of a record; they are numbered from 1. */
+/** Columns of a record; they are numbered from 1. 1 to 62 is the header, 63 to
+ *  230 the body, 231 to 256 the footer. */
 inline constexpr int LARGEUR_VSE = 256;
-/** First and last column of the body; 1 to 62 is the header, 231 on the footer. */
-inline constexpr int PREMIERE_COL_CORPS = 63;
-inline constexpr int DERNIERE_COL_CORPS = 230;
 /** Error numbers that one record may carry. */
 inline constexpr int MAX_ERREURS = 10;
 

@@ -51,7 +51,11 @@ const std::string douze(12, ' ');
 const std::string etoiles(12, '*');
 
 TEST(ListesVerifValAut, EgaliteEntiere) {
-    constexpr tValAutorise liste[] = {"FR", "A", "ABCDEFGH", "ABCDEFGHI", "ABCDEFGHIJ  ", "\xE9t\xE9", "  "};
+    // What is behind a terminator is no part of the entry.
+    constexpr tValAutorise liste[] = {"FR", "A", "ABCDEFGH", "ABCDEFGHI", "ABCDEFGHIJ  ", "\xE9t\xE9", "  ",
+                                      "abcdef\xE9\0Y",
+                                      // and a list long enough to be searched by keys
+                                      "zz1", "zz2", "zz3"};
     const cas rows[] = {
         {"FR", true},
         {"FR ", false},
@@ -79,9 +83,15 @@ TEST(ListesVerifValAut, EgaliteEntiere) {
         {"\xE9tE", false},
         {"\xC9t\xE9", false},
         {"ete", false},
+        {"abcdef\xE9", true},
+        {"abcdef\xE9\0X", true},
+        {"abcdefi", false},
     };
     for (const cas& c : rows)
-        EXPECT_EQ(accepte(fVerifValAut, "", c.champ, liste, 7), c.attendu) << '"' << c.champ << '"';
+        for (const int nombre : {8, 11}) {
+            EXPECT_EQ(accepte(fVerifValAut, "", c.champ, liste, nombre), c.attendu) << '"' << c.champ << '"';
+            EXPECT_EQ(dansListe(c.champ, liste, nombre) != 0, c.attendu) << '"' << c.champ << '"';
+        }
 }
 
 TEST(ListesVerifValAut, CodesSpeciauxPassentToutesLesListes) {

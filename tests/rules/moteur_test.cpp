@@ -112,6 +112,11 @@ TEST_F(Moteur, CoupeLesColonnesSansRienOter) {
     EXPECT_STREQ(slots[3].valeur, "b ");            // columns may be cut again
     EXPECT_STREQ(slots[4].valeur, "");
     EXPECT_EQ(xdebug, r);
+    // The widest field leaves its neighbour alone.
+    std::strcpy(slots[1].valeur, "voisin");
+    EXPECT_EQ(couper({ligne(0, 1, 256, nullptr, 0)}, r), "");
+    EXPECT_EQ(slots[0].valeur, r);
+    EXPECT_STREQ(slots[1].valeur, "voisin");
 }
 
 TEST_F(Moteur, UnRecordCourtDonneDesChampsCourts) {
