@@ -154,6 +154,15 @@ TEST_F(Sorties, VSEERRNombreDeCodes) {
     EXPECT_EQ(nbErreur, 7);
 }
 
+TEST_F(Sorties, VSEERREcritToutNumeroDeTroisChiffres) {
+    couper(acti());
+    for (int n = 0; n < 1000; ++n) {
+        char code[16];
+        std::snprintf(code, sizeof code, "I%03d1", n);
+        EXPECT_EQ(colonnes(erreurs("FR", "78123456    ", {n}), 112, 116), code);
+    }
+}
+
 TEST_F(Sorties, VSEERRDUnCompteNegatifNAPasDeCode) {
     couper(acti());
     const int codes[] = {31};
