@@ -1,6 +1,6 @@
 /**
- * index.h - where the entries of the longest lists stand, so that a search
- * need not read them through.
+ * index.h - where the entries stand in the longest of the lists that are
+ * searched for a text, so that a search need not read them through.
  */
 #ifndef QUILVANE_CHECKS_INDEX_H
 #define QUILVANE_CHECKS_INDEX_H
@@ -15,7 +15,7 @@ namespace quilvane {
  * what reading the list finds.
  */
 struct indexListe {
-    static constexpr int COURTE = 60;  // entries up to which a list needs none
+    static constexpr int COURTE = 60;  // a list of up to so many entries needs none
     static constexpr int BITS = 9;
     static constexpr unsigned TAILLE = 1U << BITS;
 

@@ -43,8 +43,9 @@ dateInversee::dateInversee(const char* jjmmaaaa) {
 }
 
 void dateInversee::blancsEnZeros() {
-    // All bytes at once: a byte that differs from ' ' in no bit carries nothing
-    // into its highest one, and a blank becomes a zero by its bit 4.
+    // All bytes at once. A byte that differs from a blank in one of its lower
+    // seven bits carries into its highest bit; `ecart` itself shows those that
+    // differ there (0xA0). A blank becomes a '0' by its bit 4.
     constexpr std::uint64_t HAUT = 0x8080808080808080;
     const std::uint64_t ecart = ordre ^ 0x2020202020202020;
     const std::uint64_t blancs = ~((ecart & ~HAUT) + ~HAUT) & ~ecart & HAUT;

@@ -64,7 +64,7 @@ inline bool egal(const char* a, const char* b) {
 }
 
 /** The same for a literal: its length is known, so that the compiler spells
- *  the comparison out. `b` is no text in a wider array. */
+ *  the comparison out. `b` must fill its array. */
 template <std::size_t N>
 bool vaut(const char* a, const char (&b)[N]) {
     for (std::size_t i = 0; i < N; ++i)

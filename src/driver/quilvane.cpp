@@ -95,8 +95,7 @@ bool echec(const char* message, const char* erreur) {
     return false;
 }
 
-/** Whether the output name is a symbolic link to the input. Once the input is
- *  renamed, opening the link would make an empty file under the input's name. */
+/** Whether the output name is a symbolic link to the input. */
 bool sortieEstLienVersEntree() {
     struct stat sortie;
     return lstat(name_emis, &sortie) == 0 && S_ISLNK(sortie.st_mode) && memeFichier(name_emis, name_recu);
@@ -115,7 +114,9 @@ bool ouvrirFichiers() {
     fp_log = std::fopen(name_log, "w");
     if (fp_log == nullptr) return echec(OUVERTURE_LOG, IG001);
 
-    std::FILE* essai = std::fopen(name_recu, "r");
+    std::FILE* essai = nullptr;
+    errno = ENOENT;  // what is there now may be the log that was just made
+    if (!memeFichier(name_log, name_recu)) essai = std::fopen(name_recu, "r");
     if (essai == nullptr) return echec(OUVERTURE_RECU, IG003);
     fermer(essai);
 
@@ -126,7 +127,10 @@ bool ouvrirFichiers() {
     fp_recu = std::fopen(name_tmp_recu, "rb");
     if (fp_recu == nullptr) return echec(OUVERTURE_TMP_RECU, IG003);
 
-    if (!lienVersEntree) {
+    // A link to the input's name leads nowhere now: opening it would make an
+    // empty file under that name.
+    const bool lienRompu = lienVersEntree && !memeFichier(name_emis, name_emis);
+    if (!lienRompu) {
         // An output name that denotes the input must not empty it.
         essai = std::fopen(name_emis, memeFichier(name_emis, name_tmp_recu) ? "a" : "w");
         if (essai == nullptr) return echec(OUVERTURE_EMIS, IG003);

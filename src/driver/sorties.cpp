@@ -26,8 +26,8 @@ constexpr int LARGEUR_CODE = 5;   // "I%03d1"
 struct ligneVSE {
     ligneVSE& texte(const char* t) { return octets(t, std::strlen(t)); }
     ligneVSE& champ(const valeurVSE& v) {
-        // Few fields are wider than a step; what is copied too much is written
-        // over by what follows.
+        // Few fields are wider than a step; what is copied too much lies behind
+        // `longueur`, where the next field is put.
         constexpr std::size_t PAS = 16;
         const std::size_t n = std::strlen(v.valeur);
         if (n > PAS || sizeof tampon - longueur < PAS) return octets(v.valeur, n);

@@ -100,10 +100,10 @@ int appliquer(const tableAppliquee& t, int compte) {
 
 void getvseChamps(const sCorps* tCorps, int lCorps, const char* tampon, valeurVSE* tValVSE, int visu) {
     if (tampon != xdebug) retenirVSE(tampon);
-    // A field that reaches into columns that a short record lacks ends at their
-    // zeros, and one behind them is empty: all are cut in their full width.
-    // Few fields are wider than a step; what a step copies too much lies behind
-    // the terminator, inside `xdebug` and inside the slot.
+    // Columns that a short record lacks are zeros: a field that reaches into them
+    // ends there, one that begins behind the record's end is empty, and all are
+    // cut in their full width. Few fields are wider than a step; what a step
+    // copies too much lies behind the terminator, inside `xdebug` and the slot.
     constexpr int PAS = 16;
     static_assert(LARGEUR_VSE % PAS == 0 && LARGEUR_VSE + PAS <= TAILLE_XDEBUG);
     for (const sCorps* ligne = tCorps; ligne != tCorps + lCorps; ++ligne) {

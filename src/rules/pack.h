@@ -81,9 +81,9 @@ inline constexpr const char* aucune = "";
 
 /** Size of `xdebug`, terminator included. */
 inline constexpr int TAILLE_XDEBUG = 4096;
-/** The record being processed, up to its first zero byte; columns that a short
- *  record lacks hold zeros. Written by `retenirVSE`; read by the engine and by
- *  checks that look at columns. */
+/** The record being processed, up to its first zero byte; the columns up to 256
+ *  that it lacks hold zeros. Written by `retenirVSE` for each record; read by
+ *  the engine and by checks that look at columns. */
 extern char xdebug[TAILLE_XDEBUG];
 
 /** Makes `tampon` (at most `TAILLE_XDEBUG` - 1 characters) the record in `xdebug`. */

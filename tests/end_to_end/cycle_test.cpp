@@ -721,6 +721,36 @@ TEST(Cycle, LogQuiDesigneLEntree) {
     }
 }
 
+// The log that opening makes under the input's name is no input.
+TEST(Cycle, LogQuiDesigneUneEntreeAbsente) {
+    for (const char* nom : {"in", "./in", "log"}) {
+        SCOPED_TRACE(nom);
+        const dossier d;
+        d.ecrire("out", "ancien");
+        if (nom == std::string("log")) fs::create_symlink("in", d.nom("log"));
+        const resultat r = lancer(d, {"in", "out", nom});
+        EXPECT_EQ(r.statut, 1);
+        EXPECT_EQ(r.erreur, latin1("Ouverture du fichier à traiter: No such file or directory\n"));
+        contenu attendu = {{"out", "ancien"}, {"in", ligneLog(LOG_IG003)}};
+        if (nom == std::string("log")) attendu["log"] = ligneLog(LOG_IG003);
+        EXPECT_EQ(d.contenu(), attendu);
+    }
+}
+
+// A link that still leads to the input after its renaming is tried like any output.
+TEST(Cycle, EntreeEtSortieLiensVersUnDossier) {
+    const dossier d;
+    fs::create_directory(d.nom("dossier"));
+    fs::create_symlink("dossier", d.nom("in"));
+    fs::create_symlink("dossier", d.nom("out"));
+    const resultat r = lancer(d, TROIS);
+    EXPECT_EQ(r.statut, 1);
+    EXPECT_EQ(r.erreur, latin1("Ouverture du fichier résultat: Is a directory\n"));
+    EXPECT_EQ(d.lire("log"), ligneLog(LOG_IG003));
+    EXPECT_TRUE(fs::is_symlink(d.nom("in_r")));
+    EXPECT_FALSE(fs::exists(fs::symlink_status(d.nom("in"))));
+}
+
 TEST(Cycle, LaConsoleNeChangePasLesFichiers) {
     for (const char* option : {"-i", "-d"}) {
         for (const auto& [octets, statut, resultatEmis] :
