@@ -14,9 +14,10 @@ enum eVisu { VISU_AUCUNE = 0, VISU_INFORMATIQUE = 1, VISU_DECRIPTEE = 2 };
 /**
  * Cuts a record into value slots: the n-th row with columns fills slot n-1.
  * Nothing is trimmed or padded; a record that ends inside or before a field
- * gives a shorter or empty slot. `tampon` becomes the record in `xdebug` (see
- * `retenirVSE`), unless it is `xdebug` and so has become it before. `tValVSE` has a slot for every row with
- * columns. In mode -d an empty line is printed.
+ * gives a shorter or empty slot. `tampon` is made the record in `xdebug` (see
+ * `retenirVSE`); it may be `xdebug` itself, to cut the record that is there.
+ * `tValVSE` has a slot for every row with columns. In mode -d an empty line is
+ * printed.
  */
 void getvseChamps(const sCorps* tCorps, int lCorps, const char* tampon, valeurVSE* tValVSE, int visu);
 
