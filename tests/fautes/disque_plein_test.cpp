@@ -86,6 +86,19 @@ void PrintTo(const attente& a, std::ostream* flux) {
         *flux << ' ' << nom << ": " << octets.size() << " bytes";
 }
 
+/** A run in which no file may grow beyond `max` bytes publishes a result that
+ *  is not larger, and gives the input back for any other. */
+void verifierTailleMax(const passage& p, std::size_t max) {
+    const temoin t;
+    options o = t.sous("");
+    o.milieu["QUILVANE_TAILLE_MAX"] = std::to_string(max);
+    const dossier d;
+    const dossier dossierDuLog;
+    EXPECT_EQ(courir(d, dossierDuLog, p, o),
+              max < p.publie.size() ? rendu(p, std::strerror(EFBIG)) : publie(p));
+    EXPECT_EQ(t.ouverts(), std::vector<std::string>{});
+}
+
 }  // namespace
 
 TEST(DisquePlein, UnDisqueVraimentPlein) {
@@ -132,14 +145,7 @@ TEST(DisquePlein, TailleDeFichierLimitee) {
                                           taille - 257, taille - 1, taille, taille + 1}) {
                 SCOPED_TRACE(std::string(p.nom) + ", " + std::to_string(max) + " bytes of " +
                              std::to_string(taille));
-                const temoin t;
-                options o = t.sous("");
-                o.milieu["QUILVANE_TAILLE_MAX"] = std::to_string(max);
-                const dossier d;
-                const dossier dossierDuLog;
-                EXPECT_EQ(courir(d, dossierDuLog, p, o),
-                          max < taille ? rendu(p, std::strerror(EFBIG)) : publie(p));
-                EXPECT_EQ(t.ouverts(), std::vector<std::string>{});
+                verifierTailleMax(p, max);
             }
         }
     }
@@ -156,13 +162,6 @@ TEST(DisquePlein, LAutreFichierNeComptePas) {
     p.octets = fichier(records);
     p.publie =
         fichierErreurs(fich(300), {1, 300, 299}, {erre(fausse, {94}, clesExploitation(fausse), fich(300))});
-    for (const std::size_t max : {p.publie.size(), p.publie.size() - 1}) {
-        const temoin t;
-        options o = t.sous("");
-        o.milieu["QUILVANE_TAILLE_MAX"] = std::to_string(max);
-        const dossier d;
-        const dossier dossierDuLog;
-        EXPECT_EQ(courir(d, dossierDuLog, p, o),
-                  max < p.publie.size() ? rendu(p, std::strerror(EFBIG)) : publie(p));
-    }
+    for (const std::size_t max : {p.publie.size(), p.publie.size() - 1})
+        verifierTailleMax(p, max);
 }
