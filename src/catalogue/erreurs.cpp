@@ -217,10 +217,12 @@ constexpr sErreur tErreurs[] = {
       "country is unknown; the causes F and G (ENTR), S and T (SORT) make the country compulsory. Kind "
       "MOD tolerates this for a movement before 01/01/1999, and cause N of ENTR needs neither number nor "
       "text. In JALO the text C7 or C8 is blank."},
-     {"Donnez ensemble le pays et le numéro de l'autre exploitation ; sans numéro, décrivez l'autre partie "
-      "dans C10. Dans JALO, remplissez C7 et C8.",
-      "Give the country and the number of the other holding together; without a number, describe the "
-      "other party in C10. In JALO fill C7 and C8."}},
+     {"Donnez ensemble le pays et le numéro de l'autre exploitation. Sans numéro, décrivez l'autre partie "
+      "dans C10 et ne donnez le pays seul que pour les causes F et G (ENTR), S, T et M (SORT). Dans JALO, "
+      "remplissez C7 et C8.",
+      "Give the country and the number of the other holding together. Without a number, describe the "
+      "other party in C10 and give the country alone only for the causes F and G (ENTR), S, T and M "
+      "(SORT). In JALO fill C7 and C8."}},
     {25,
      {"Exploitation : pays ou numéro refusé (PASS)", "Holding: country or number refused (PASS)"},
      {"Dans un PASS, le code pays de l'exploitation (C4) n'est pas FR, ou son numéro (C5) est vide.",
@@ -381,7 +383,7 @@ constexpr sErreur tErreurs[] = {
       "Compare the beginning of the number with the body E8 and correct the one that is wrong. Corsica "
       "is written 20 in holding and animal numbers."}},
     {51,
-     {"Colonnes 77-78 à xx", "Columns 77-78 hold xx"},
+     {"xx en colonnes 77 et 78", "xx in columns 77 and 78"},
      {"Le champ C3 (colonnes 77 et 78) contient xx, et l'émetteur du fichier n'est pas l'un des émetteurs "
       "nationaux NORM01, NORM02 et PFOC01. Tous les types de message sont concernés, sauf ERRE.",
       "Field C3 (columns 77 and 78) holds xx, and the emitter of the file is not one of the national "
@@ -420,7 +422,7 @@ constexpr sErreur tErreurs[] = {
      {"Écrivez une date qui existe, sous la forme JJMMAAAA, sans zéros à la place d'une partie inconnue.",
       "Write a date that exists, as DDMMYYYY, without zeros in the place of an unknown part."}},
     {64,
-     {"Colonnes 77-78 à xx (émetteur national)", "Columns 77-78 hold xx (national emitter)"},
+     {"xx en colonnes 77 et 78 (émetteur national)", "xx in columns 77 and 78 (national emitter)"},
      {"Le champ C3 (colonnes 77 et 78) contient xx dans un fichier d'un émetteur national (NORM01, NORM02 "
       "ou PFOC01). Tous les types de message sont concernés, sauf ERRE.",
       "Field C3 (columns 77 and 78) holds xx in a file of a national emitter (NORM01, NORM02 or PFOC01). "
@@ -444,7 +446,7 @@ constexpr sErreur tErreurs[] = {
      {"Numéro d'exploitation, d'abattoir ou d'agrément mal formé",
       "Holding, slaughterhouse or approval number not well formed"},
      {"Un numéro d'exploitation française n'est pas fait de huit chiffres, qui commencent par un "
-      "département connu, puis de quatre blancs. Dans ABAT, le numéro de tuerie C8 (lettres et chiffres, "
+      "département connu, puis de quatre blancs. Dans ABAT, le numéro d'abattoir C8 (lettres et chiffres, "
       "ou tout en blanc) et l'identifiant du notifiant C11 (sept ou huit caractères qui commencent par un "
       "département) sont aussi concernés. Dans ERRE, c'est le numéro d'agrément sanitaire C8.",
       "A French holding number is not eight digits that begin with a known department, then four blanks. "
@@ -536,10 +538,10 @@ constexpr sErreur tErreurs[] = {
      {"Type ou champ non admis pour ce genre", "Type or field not allowed for this kind"},
      {"Le type de message (E6) ne s'emploie pas avec ce genre (E5), ou un contrôle du corps exclut ce "
       "genre. Un même enregistrement peut porter ce numéro plusieurs fois, une fois pour l'en-tête et une "
-      "fois pour chaque contrôle du corps.",
+      "fois pour chaque contrôle du corps qui exclut le genre.",
       "The message type (E6) is not used with this transaction kind (E5), or a check of the body excludes "
       "this kind. One record may carry this number several times, once for the header and once for each "
-      "check of the body."},
+      "check of the body that excludes the kind."},
      {"Choisissez un genre que le type de message admet, ou corrigez le type.",
       "Choose a kind that the message type allows, or correct the type."}},
     {87,
@@ -827,8 +829,8 @@ constexpr sErreur tErreurs[] = {
      {"Remplissez C11 et inscrivez FR dans C10, ou le pays qui suit OFFICE ou ONICAB.",
       "Fill C11 and write FR in C10, or the country behind OFFICE or ONICAB."}},
     {128,
-     {"Numéro de tuerie refusé", "Slaughterhouse number refused"},
-     {"Le numéro de tuerie (C8, colonnes 109 à 116) d'un ABAT ne commence pas par une lettre ou un "
+     {"Numéro d'abattoir refusé", "Slaughterhouse number refused"},
+     {"Le numéro d'abattoir (C8, colonnes 109 à 116) d'un ABAT ne commence pas par une lettre ou un "
       "chiffre. Si le notifiant (C11) commence par OFFICE, il doit être fait des deux codes pays C4 et "
       "C10, dans cet ordre. Il peut rester en blanc.",
       "The slaughterhouse number (C8, columns 109 to 116) of an ABAT record does not begin with a letter "
@@ -999,11 +1001,11 @@ constexpr sErreur tErreurs[] = {
      {"Comparez les deux dates et corrigez celle qui est fausse.",
       "Compare the two dates and correct the one that is wrong."}},
     {150,
-     {"Témoin de boucle absent ou inconnu (NUMA, REBO)", "Tag witness missing or unknown (NUMA, REBO)"},
-     {"En genre MOD, le témoin C8 (colonne 107) d'un NUMA n'est pas un chiffre de 0 à 5, ou le témoin C25 "
+     {"Code ou témoin de boucle refusé (NUMA, REBO)", "Tag code or tag witness refused (NUMA, REBO)"},
+     {"En genre MOD, le code C8 (colonne 107) d'un NUMA n'est pas un chiffre de 0 à 5, ou le témoin C25 "
       "(colonne 228) d'un REBO est en blanc alors que la date C4 est du 01/01/2011 ou plus récente.",
-      "With kind MOD the witness C8 (column 107) of a NUMA record is not a digit from 0 to 5, or the "
-      "witness C25 (column 228) of a REBO record is blank although the date C4 is 01/01/2011 or later."},
+      "With kind MOD the code C8 (column 107) of a NUMA record is not a digit from 0 to 5, or the witness "
+      "C25 (column 228) of a REBO record is blank although the date C4 is 01/01/2011 or later."},
      {"Inscrivez un chiffre de 0 à 5 dans NUMA ; remplissez la colonne 228 dans REBO, où 0 est refusé.",
       "Write a digit from 0 to 5 in NUMA; fill column 228 in REBO, where 0 is refused."}},
     {151,
@@ -1224,7 +1226,7 @@ constexpr sErreur tErreurs[] = {
       "l'enregistrement FICH.",
       "Take this record out of the file, or check the emitter and the receiver in the FICH record."}},
     {183,
-     {"Type de numéro contraire au genre (ASSO)", "Type of number against its kind (ASSO)"},
+     {"Type de numéro inadapté au genre (ASSO)", "Type of number does not fit its kind (ASSO)"},
      {"Dans un ASSO de genre CRE ou MOD, le type de numéro C5 ne va pas avec le genre d'identifiant C4 : D "
       "demande SIREN ou AGRIN, E demande SIRET, AGRIT, AGRSA ou CEM.",
       "In an ASSO record of transaction kind CRE or MOD the type of number C5 does not go with the kind "
@@ -1371,9 +1373,10 @@ constexpr sFatal tFatals[] = {
       "The file mixes two kinds of line ends, LF (UNIX) and CR LF (DOS). The run ends with status 1 and "
       "nothing is published."},
      {"L'entrée se trouve sous son nom de travail (suffixe _r). Redonnez-lui son nom, mettez toutes ses "
-      "fins de ligne sous une même forme, puis relancez.",
+      "fins de ligne sous une même forme, puis relancez. Les fichiers restés avec les suffixes _e et _o "
+      "peuvent être supprimés.",
       "The input stands under its working name (suffix _r). Give it its name again, bring all its line "
-      "ends to one form, then run again."}},
+      "ends to one form, then run again. The files left with the suffixes _e and _o may be removed."}},
     {"IG009",
      {"Fichier à traiter impossible à renommer", "Input file cannot be renamed"},
      {"L'entrée n'a pas pu être renommée avant le traitement : elle est alors intacte. Ou bien elle n'a "
