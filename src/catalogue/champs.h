@@ -26,9 +26,9 @@ struct sNom {
     texte libelle;     // a short name, no final stop
 };
 
-/** Every field that a rule table cuts, in the order of the tables. */
+/** Every field that a rule table cuts, by table, then by field. */
 extern const std::span<const sChamp> champs;
-/** Every message type, FICH included, and every transaction kind. */
+/** Every message type, FICH included, by code; every transaction kind, by code. */
 extern const std::span<const sNom> typesDeVSE;
 extern const std::span<const sNom> genres;
 
