@@ -1,7 +1,7 @@
 /**
  * Labels say no more than the rules do: where a rule only looks at the form of
- * a field, so does its label. The kinds in parentheses are those for which the
- * field is checked.
+ * a field, so does its label. Kinds in parentheses are those for which the field
+ * is checked; a label without any says nothing about kinds.
  */
 #include "catalogue/champs.h"
 
@@ -67,7 +67,7 @@ constexpr texte PAYS_DETENTEUR = {"Code pays du détenteur", "Country code of th
 constexpr texte NUM_DETENTEUR = {"Code du détenteur", "Keeper code"};
 constexpr texte FORME = {"Forme juridique", "Legal form"};
 constexpr texte PAYS_SITE = {"Code pays du site", "Country code of the site"};
-constexpr texte NUM_SITE = {"Code du site, selon la production C4", "Site code, by the production C4"};
+constexpr texte NUM_SITE = {"Code du site, de la forme que demande C4", "Site code, in the form that C4 asks for"};
 constexpr texte PRODUCTION = {"Genre de production, P ou V", "Kind of production, P or V"};
 
 // Movements
@@ -132,7 +132,7 @@ constexpr sChamp tChamps[] = {
     {"ASSO", C9,    LIBRE},
     // DETE
     {"DETE", C1,    PAYS_DETENTEUR},
-    {"DETE", C2,    {"Code du détenteur (en DEM, selon C12)", "Keeper code (for DEM, by C12)"}},
+    {"DETE", C2,    {"Code du détenteur, ou en DEM ce que dit C12", "Keeper code, or for DEM what C12 says"}},
     {"DETE", C3,    RESULTAT},
     {"DETE", C4,    FORME},
     {"DETE", C5,    TRENTE},
@@ -142,7 +142,7 @@ constexpr sChamp tChamps[] = {
     {"DETE", C9,    TRENTE},
     {"DETE", C10,   LIBRE},
     {"DETE", C11,   {"Code pays", "Country code"}},
-    {"DETE", C12,   {"D ou E (DEM) : choisit le contrôle de C2", "D or E (DEM): chooses how C2 is checked"}},
+    {"DETE", C12,   {"D ou E, choisit le contrôle de C2 (DEM)", "D or E, chooses how C2 is checked (DEM)"}},
     {"DETE", C13,   LIBRE},
     // DETI
     {"DETI", C1,    PAYS_DETENTEUR},
@@ -248,7 +248,7 @@ constexpr sChamp tChamps[] = {
     {"ERRE", C7,    PAYS_EXPL},
     {"ERRE", C8,    {"Numéro d'agrément ou d'exploitation", "Approval or holding number"}},
     {"ERRE", C9,    {"Quatre lettres ou chiffres", "Four letters or digits"}},
-    {"ERRE", C10,   {"Un caractère, non blanc", "One character, not blank"}},
+    {"ERRE", C10,   {"Un caractère non blanc", "One character that is not blank"}},
     {"ERRE", C29,   {"Code pays FR, facultatif", "Country code FR, optional"}},
     {"ERRE", C30,   {"Numéro d'agrément ou d'exploitation, facultatif",
                      "Approval or holding number, optional"}},
@@ -267,7 +267,7 @@ constexpr sChamp tChamps[] = {
     {"ERTI", C4,    PRODUCTION},
     {"ERTI", C5,    {"Lettre de production si C4 est V, sinon blanc",
                      "Production letter when C4 is V, otherwise blank"}},
-    {"ERTI", C6,    {"Date complète (CRE), blanche en MOD", "Complete date (CRE), blank for MOD"}},
+    {"ERTI", C6,    {"Date complète (CRE) ou blanche (MOD)", "Complete date (CRE) or blank (MOD)"}},
     {"ERTI", C7,    {"Date complète, facultative (CRE, MOD)", "Complete date, optional (CRE, MOD)"}},
     {"ERTI", C8,    DATE_INV_MOD},
     {"ERTI", C9,    {"OEUF si C5 est M, sinon blanc (CRE, MOD)",
@@ -334,11 +334,11 @@ constexpr sChamp tChamps[] = {
     {"GROC", C6,    DATE_CRE},
     {"GROC", C7,    MODELE},
     {"GROC", C8,    PAYS_ORIGINE},
-    {"GROC", C9,    {"Compteur, selon le modèle C7", "Counter, by the model C7"}},
+    {"GROC", C9,    {"Compteur, selon le modèle C7", "Counter, as the model C7 allows"}},
     {"GROC", C10,   {"Date complète, facultative (CRE)", "Complete date, optional (CRE)"}},
     {"GROC", C11,   LIBRE},
-    {"GROC", C12,   {"Heure de la date C10, sinon blanc (CRE)",
-                     "Time for the date C10, otherwise blank (CRE)"}},
+    {"GROC", C12,   {"Heure si C10 est remplie, sinon blanc (CRE)",
+                     "Time when C10 is filled, otherwise blank (CRE)"}},
     {"GROC", C13,   LIBRE},
     // IMOC
     {"IMOC", C1,    PAYS_OVIN},
@@ -355,7 +355,7 @@ constexpr sChamp tChamps[] = {
     {"IMPO", C3,    RESULTAT},
     {"IMPO", C4,    SEXE},
     {"IMPO", C5,    RACE},
-    {"IMPO", C6,    {"Date, peut être incomplète, blanche ou *", "Date, may be incomplete, blank or *"}},
+    {"IMPO", C6,    {"Date, même incomplète, blanche ou en astérisques", "Date, also incomplete, blank or asterisks"}},
     {"IMPO", C7,    QUATRE},
     {"IMPO", C8,    LIBRE},
     {"IMPO", C9,    LIBRE},
@@ -453,10 +453,10 @@ constexpr sChamp tChamps[] = {
     {"PASS", C4,    PAYS_EXPL},
     {"PASS", C5,    NUM_EXPL},
     {"PASS", C6,    {"Code 00 à 09", "Code 00 to 09"}},
-    {"PASS", C7,    {"Date complète (INV ; EDI si C11 est 0)", "Complete date (INV; EDI when C11 is 0)"}},
+    {"PASS", C7,    {"Date complète (INV, EDI si C11 est 0)", "Complete date (INV, EDI when C11 is 0)"}},
     {"PASS", C8,    LIBRE},
     {"PASS", C9,    {"Date complète (EDI)", "Complete date (EDI)"}},
-    {"PASS", C10,   {"Heure (INV ; EDI si C11 est 0)", "Time (INV; EDI when C11 is 0)"}},
+    {"PASS", C10,   {"Heure (INV, EDI si C11 est 0)", "Time (INV, EDI when C11 is 0)"}},
     {"PASS", C11,   {"Indicateur 0 ou 1 (EDI)", "Flag, 0 or 1 (EDI)"}},
     {"PASS", C12,   LIBRE},
     // PICO
@@ -470,7 +470,7 @@ constexpr sChamp tChamps[] = {
     {"PICO", C8,    MODELE},
     {"PICO", C9,    {"Type de commande, I0 à I5, PR ou PC", "Order type, I0 to I5, PR or PC"}},
     {"PICO", C10,   PAYS_ORIGINE},
-    {"PICO", C11,   {"Compteur, selon le modèle C8", "Counter, by the model C8"}},
+    {"PICO", C11,   {"Compteur, selon le modèle C8", "Counter, as the model C8 allows"}},
     {"PICO", C12,   LIBRE},
     // RACO
     {"RACO", C1,    PAYS_EXPL},
@@ -503,8 +503,8 @@ constexpr sChamp tChamps[] = {
     {"REBO", C6,    NUM_EXPL},
     {"REBO", C23,   DATE_INV_MOD},
     {"REBO", C24,   {"Modèle de boucle (CRE)", "Tag model (CRE)"}},
-    {"REBO", C25,   {"Témoin de boucle, code 1 à 5 ou blanc (MOD)",
-                     "Tag witness, code 1 to 5 or blank (MOD)"}},
+    {"REBO", C25,   {"Témoin de boucle, autre que 0 (MOD)",
+                     "Tag witness, other than 0 (MOD)"}},
     {"REBO", C26,   LIBRE},
     // SORT
     {"SORT", C1,    PAYS_ANIMAL},

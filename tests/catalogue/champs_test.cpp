@@ -7,8 +7,9 @@
 #include <set>
 #include <string>
 #include <string_view>
-#include <vector>
+#include <utility>
 
+#include "catalogue/exemples.h"
 #include "messages/aiguillage.h"
 #include "messages/messages.h"
 #include "rules/entete.h"
@@ -18,7 +19,7 @@ using namespace quilvane;
 namespace {
 
 /** "NAIS C24": a field as people name it. */
-std::string nomDe(std::string_view table, unsigned numChamp) {
+std::string nomDe(std::string_view table, int numChamp) {
     const std::string lettre = table == "E" || table == "F" ? std::string(table) : std::string(table) + " C";
     return lettre + std::to_string(numChamp + 1);
 }
@@ -26,7 +27,7 @@ std::string nomDe(std::string_view table, unsigned numChamp) {
 /** The fields that a rule table cuts. */
 void ajouterChamps(std::set<std::string>& noms, const char* nom, const sCorps* lignes, int longueur) {
     for (int i = 0; i < longueur; ++i)
-        if (lignes[i].debut > 0) noms.insert(nomDe(nom, static_cast<unsigned>(lignes[i].numChamp)));
+        if (lignes[i].debut > 0) noms.insert(nomDe(nom, lignes[i].numChamp));
 }
 
 std::set<std::string> champsDesTables() {
@@ -42,7 +43,7 @@ std::set<std::string> champsDesTables() {
 std::set<std::string> champsDuCatalogue() {
     std::set<std::string> noms;
     for (const sChamp& champ : champs)
-        noms.insert(nomDe(champ.table, static_cast<unsigned>(champ.numChamp)));
+        noms.insert(nomDe(champ.table, champ.numChamp));
     return noms;
 }
 
@@ -112,7 +113,75 @@ void verifierLibelle(const texte& libelle, const std::string& nom) {
     EXPECT_EQ(defaut(libelle.en_langue(ANGLAIS)), "") << nom << ", in English: " << libelle.en;
 }
 
+/** The kinds that a label names in parentheses. */
+std::set<std::string> genresDits(const std::string& libelle) {
+    std::set<std::string> dits;
+    bool dedans = false;
+    for (std::size_t i = 0; i < libelle.size(); ++i) {
+        if (libelle[i] == '(' || libelle[i] == ')') dedans = libelle[i] == '(';
+        if (dedans && genreDe(libelle.substr(i, 3)) != nullptr) dits.insert(libelle.substr(i, 3));
+    }
+    return dits;
+}
+
+/** Whether a row checks a field of a body. */
+bool estControle(const sChamp& champ) {
+    const sAiguillage& aiguillage = tAiguillage[aiguiller(champ.table)];
+    for (int i = 0; i < *aiguillage.pLenTabVerif; ++i)
+        if (aiguillage.tabVerif[i].numChamp == champ.numChamp && aiguillage.tabVerif[i].pfVerif != nullptr)
+            return true;
+    return false;
+}
+
+/** The kinds for which a field of a body is checked, among those for which its
+ *  type has an example. */
+std::set<std::string> genresControles(const sChamp& champ) {
+    const sAiguillage& aiguillage = tAiguillage[aiguiller(champ.table)];
+    std::set<std::string> controles;
+    for (int i = 0; i < *aiguillage.pLenTabVerif; ++i) {
+        const sCorps& ligne = aiguillage.tabVerif[i];
+        if (ligne.numChamp != champ.numChamp || ligne.pfVerif == nullptr) continue;
+        const std::pair<const char*, int> presences[] = {{"CRE", ligne.typeCRE},
+                                                         {"DEM", ligne.typeDEM},
+                                                         {"INV", ligne.typeINV},
+                                                         {"EDI", ligne.typeEDI},
+                                                         {"MOD", ligne.typeMOD}};
+        for (const auto& [genre, presence] : presences)
+            if (presence == 0) controles.insert(genre);
+    }
+    std::set<std::string> admis;
+    for (const std::string_view genre : genresDe(champ.table))
+        if (controles.contains(std::string(genre))) admis.insert(std::string(genre));
+    return admis;
+}
+
 }  // namespace
+
+TEST(CatalogueDesChamps, DitDeQuelsGenresIlParle) {
+    int compte = 0;
+    for (const sChamp& champ : champs) {
+        const std::set<std::string> dits = genresDits(champ.libelle.fr);
+        EXPECT_EQ(genresDits(champ.libelle.en), dits) << champ.libelle.en;
+        if (dits.empty()) continue;
+        ++compte;
+        EXPECT_EQ(dits, genresControles(champ))
+            << nomDe(champ.table, champ.numChamp) << ": " << champ.libelle.fr;
+    }
+    EXPECT_GT(compte, 30);
+}
+
+// A field that no rule looks at says so, or what the run makes of it.
+TEST(CatalogueDesChamps, DitCeQuiNEstPasControle) {
+    for (const sChamp& champ : champs) {
+        const bool libre = std::string_view(champ.libelle.en) == "Not checked";
+        EXPECT_EQ(std::string_view(champ.libelle.fr) == "Zone non contrôlée", libre) << champ.libelle.fr;
+        if (aiguiller(champ.table) == ERR_AIGUILLAGE) continue;
+        const bool controle = estControle(champ);
+        const bool resultat = std::string_view(champ.libelle.en) == "Result code, set to 40 on acceptance";
+        EXPECT_NE(controle, libre || resultat)
+            << nomDe(champ.table, champ.numChamp) << ": " << champ.libelle.en;
+    }
+}
 
 TEST(CatalogueDesChamps, NommeToutChampEtRienDAutre) {
     EXPECT_EQ(difference(champsDesTables(), champsDuCatalogue()), "");
@@ -135,7 +204,7 @@ TEST(CatalogueDesChamps, NommeToutGenreEtRienDAutre) {
 
 TEST(CatalogueDesChamps, SeLitDansLesDeuxLangues) {
     for (const sChamp& champ : champs)
-        verifierLibelle(champ.libelle, nomDe(champ.table, static_cast<unsigned>(champ.numChamp)));
+        verifierLibelle(champ.libelle, nomDe(champ.table, champ.numChamp));
     for (const sNom& type : typesDeVSE)
         verifierLibelle(type.libelle, type.code);
     for (const sNom& genre : genres)
@@ -182,5 +251,8 @@ TEST(PreuveDesLibelles, VoitChaqueDefaut) {
     EXPECT_EQ(defaut("Date "), "It has a blank too many.");
     EXPECT_EQ(defaut("Date  du"), "It has a blank too many.");
     EXPECT_EQ(defaut("Date."), "It ends in a stop.");
+    EXPECT_EQ(genresDits("Date CRE (INV, EDI si C11) ou (MOD)"),
+              (std::set<std::string>{"EDI", "INV", "MOD"}));
+    EXPECT_TRUE(genresDits("Date CRE").empty());
     EXPECT_EQ(difference({"E1", "E2"}, {"E2", "E3"}), "E1 has no label. The label of E3 is for nothing. ");
 }
