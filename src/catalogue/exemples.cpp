@@ -312,7 +312,7 @@ constexpr sZone cSort[] = {
 };
 
 constexpr sModele tModeles[] = {
-    //type  kinds              emitter     body        fields
+    //type   kinds               emitter     body        fields
     {"ABAT", "CRE INV MOD",      "NORM01  ", "NORMABEV", cAbat},
     {"ACTI", "CRE INV MOD",      "089ARS  ", "078IPG  ", cActi},
     {"ASSO", "CRE INV MOD",      "089ARS  ", "078IPG  ", cAsso},
