@@ -9,68 +9,49 @@
 #include <vector>
 
 #include "checks/utils.h"
-#include "driver/etat.h"
-#include "driver/flux.h"
-#include "driver/sorties.h"
-#include "driver/traitement.h"
-#include "messages/aiguillage.h"
-#include "rules/moteur.h"
+#include "controle/composition.h"
 #include "support/generateur.h"
+#include "support/memoire.h"
+#include "support/passage.h"
 #include "support/vse.h"
 
 using namespace quilvane;
 
 namespace {
 
-/** Fresh state with outputs that go nowhere. */
-struct depart {
-    depart() {
-        initialiserEtat();
-        faireVSEDate(VSEDate);
-        fp_emis = std::fopen("/dev/null", "w");
-        fp_erre = std::fopen("/dev/null", "w");
-        preparerSorties();
-    }
-    ~depart() {
-        std::fclose(fp_emis);
-        std::fclose(fp_erre);
-        fp_emis = fp_erre = nullptr;
-    }
-    depart(const depart&) = delete;
-    depart& operator=(const depart&) = delete;
-};
-
-/** Reading and processing of a whole file of 10000 records. */
+/** Reading, processing and composing of a whole file of 10000 records. */
 void boucle(benchmark::State& etat, int fautes) {
-    std::string fichier = essai::fichierGenere({.graine = 1, .fautes = fautes});
+    essai::memoire fichier(essai::fichierGenere({.graine = 1, .fautes = fautes}));
+    static lecteur source;
+    static lot l;
     std::int64_t records = 0;
     for (auto _ : etat) {
-        const depart d;
-        std::FILE* const entree = fmemopen(fichier.data(), fichier.size(), "rb");
-        ouvrirFlux(entree);
-        char tampon[TAILLE_TAMPON];
-        int nombre = 1;
-        for (cverseFgetsRet fin; (fin = cverseFgets(tampon)) == CVERSE_UNIX; ++nombre) {
-            benchmark::DoNotOptimize(traitement(tampon, VISU_AUCUNE, nombre, fin));
-            nbErreur = 0;
+        commencer(l);
+        fichier.ouvrir(source);
+        for (verdict v; suivant(l, source, v) == SUITE_VERDICT; ++records) {
+            ajouts a;
+            ajouterVerdict(a, l, v);
+            benchmark::DoNotOptimize(a);
         }
-        records += nombre - 1;
-        std::fclose(entree);
     }
     etat.SetItemsProcessed(records);
 }
 BENCHMARK_CAPTURE(boucle, acceptes, 0)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(boucle, rejetes, 100)->Unit(benchmark::kMillisecond);
 
-/** One record of a type, from its header to the output. */
+/** One record of a type, from its header to what it adds to a file. */
 void record(benchmark::State& etat, const std::string& type) {
-    const depart d;
+    essai::passage p;
     essai::hasard h(1);
     const std::string r = essai::recordCorrect(type, essai::genresDe(type).front(), h);
-    traitement(essai::fich(1, essai::emetteurPour(type)).c_str(), VISU_AUCUNE, 1, CVERSE_UNIX);
+    p.traiter(essai::fich(1, essai::emetteurPour(type)));
+    std::memcpy(p.l.ligne.texte, r.c_str(), r.size() + 1);
     for (auto _ : etat) {
-        nbErreur = 0;
-        benchmark::DoNotOptimize(traitement(r.c_str(), VISU_AUCUNE, 2, CVERSE_UNIX));
+        verdict v = {.fatal = eFatal::AUCUN, .rang = 2, .erreurs = 0, .itAiguil = 0, .sansCompagnon = 0};
+        traitement(p.l, v);
+        ajouts a;
+        ajouterVerdict(a, p.l, v);
+        benchmark::DoNotOptimize(a);
     }
     etat.SetItemsProcessed(etat.iterations());
 }

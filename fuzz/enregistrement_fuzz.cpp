@@ -6,52 +6,47 @@
 
 #include <cstring>
 
-#include "driver/etat.h"
-#include "driver/flux.h"
-#include "driver/sorties.h"
-#include "driver/traitement.h"
+#include "driver/console.h"
 #include "messages/aiguillage.h"
+#include "rules/constat.h"
 #include "support/generateur.h"
+#include "support/passage.h"
 #include "support/vse.h"
 
 using namespace quilvane;
 
 namespace {
 
-/** A stream into memory. */
-struct memoire {
-    char* texte = nullptr;
-    std::size_t taille = 0;
-    std::FILE* fp = open_memstream(&texte, &taille);
-    std::string fermer() {
-        std::fclose(fp);
-        std::string t(texte, taille);
-        std::free(texte);
-        return t;
-    }
-};
-
-struct bilan {
+struct rendu {
     int erreurs;
     std::string emis;
     std::string rejete;
-    bool operator==(const bilan&) const = default;
+    bool operator==(const rendu&) const = default;
 };
 
-bilan passer(const std::string& emetteur, const std::string& record, int caractere, int longueur, int mode) {
-    cible::remettreAZero();
-    std::strcpy(VSEDate, "16032024112233025        *");
-    memoire emis;
-    memoire rejete;
-    fp_emis = emis.fp;
-    fp_erre = rejete.fp;
-    traitement(essai::fich(1, emetteur).c_str(), mode, 1, CVERSE_UNIX);
-    nbErreur = 0;
-    codCaract = caractere;
-    codLong = longueur;
-    const int n = traitement(record.c_str(), mode, 2, CVERSE_UNIX);
-    fp_emis = fp_erre = nullptr;
-    return {n, emis.fermer(), rejete.fermer()};
+/** What an error speaks of lies in the record. */
+void verifierConstats(int erreurs) {
+    for (int i = 0; i < erreurs; ++i) {
+        const constat& c = constats[i];
+        cible::verifier(c.numero == codeErreur[i], "an error is told with its number");
+        const extrait e = texteDe(c);
+        cible::verifier(c.ligne == nullptr
+                            ? e.longueur == 0
+                            : e.debut >= xdebug && e.debut + e.longueur <= xdebug + LARGEUR_VSE,
+                        "an error speaks of columns of the record");
+        cible::verifier(std::memchr(e.debut, '\0', static_cast<std::size_t>(e.longueur)) == nullptr,
+                        "nothing behind the record's end is shown");
+    }
+}
+
+rendu passer(const std::string& emetteur, const std::string& record, int caractere, int longueur, int mode) {
+    static essai::passage p;
+    p.recommencer();
+    p.l.vu = affichageVSE(mode);
+    p.traiter(essai::fich(1, emetteur));
+    p.traiter(record, longueur, caractere);
+    verifierConstats(p.v.erreurs);
+    return {p.v.erreurs, p.emis, p.erre};
 }
 
 }  // namespace
@@ -99,7 +94,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const bool entier = record.size() == 256 && std::strlen(record.c_str()) == 256;
     const int longueur = record.size() < 256 ? 2 : 0;
 
-    const bilan b = passer(emetteur, record, caractere, longueur, mode);
+    const rendu b = passer(emetteur, record, caractere, longueur, mode);
     cible::verifier(b.erreurs >= 0 && b.erreurs <= 10, "at most ten errors");
     cible::verifier(b.emis.empty() == (b.erreurs > 0), "a record is either accepted or rejected");
     cible::verifier(b.rejete.empty() == (b.erreurs == 0), "an error record for a record in error");

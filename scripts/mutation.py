@@ -24,14 +24,15 @@ from collections import Counter
 from pathlib import Path
 
 COPIES = ["CMakeLists.txt", "README.md", "src", "tests", "exemples", "fuzz"]
-PIECES = ["checks", "messages", "rules", "driver"]
+PIECES = ["checks", "messages", "rules", "controle", "driver"]
 
 # Test programs that can notice a change in a room, the most specific first.
 PROGRAMMES = {
-    "checks": ["tests_checks", "tests_messages", "tests_tables", "tests_rules", "tests_driver", "tests_end_to_end"],
-    "messages": ["tests_messages", "tests_tables", "tests_rules", "tests_driver", "tests_checks", "tests_end_to_end"],
-    "rules": ["tests_rules", "tests_tables", "tests_messages", "tests_checks", "tests_driver", "tests_end_to_end"],
-    "driver": ["tests_driver", "tests_end_to_end", "tests_fautes", "tests_messages"],
+    "checks": ["tests_checks", "tests_messages", "tests_tables", "tests_rules", "tests_controle", "tests_end_to_end"],
+    "messages": ["tests_messages", "tests_tables", "tests_rules", "tests_controle", "tests_checks", "tests_end_to_end"],
+    "rules": ["tests_rules", "tests_tables", "tests_messages", "tests_checks", "tests_controle", "tests_driver", "tests_end_to_end"],
+    "controle": ["tests_controle", "tests_driver", "tests_end_to_end", "tests_messages"],
+    "driver": ["tests_driver", "tests_end_to_end", "tests_fautes"],
 }
 
 # Out of 100 sampled changes: how many are rule cells, list entries, code.

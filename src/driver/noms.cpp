@@ -4,7 +4,7 @@
 #include <cstdlib>
 #include <cstring>
 
-#include "driver/etat.h"
+#include "controle/lot.h"
 
 namespace quilvane {
 

@@ -12,23 +12,21 @@
 #include <cstring>
 
 #include "attgetopt/attgetopt.h"
-#include "checks/lecture.h"
+#include "calendar/horloge.h"
+#include "controle/composition.h"
+#include "controle/lot.h"
+#include "driver/console.h"
 #include "driver/etat.h"
-#include "driver/flux.h"
 #include "driver/noms.h"
 #include "driver/publication.h"
 #include "driver/sorties.h"
-#include "driver/traitement.h"
 #include "rules/latin1.h"
-#include "rules/moteur.h"
 
 namespace quilvane {
 
 namespace {
 
-constexpr int NB_FICHIERS = 3;         // file arguments
-constexpr int MAX_NOMBRE_VSE = 10002;  // counter value after 10000 messages and the FICH record
-constexpr int ERR_NOMBRE_VSE = 100;    // count in the FICH record is wrong
+constexpr int NB_FICHIERS = 3;  // file arguments
 
 constexpr texteLatin1 USAGE(
     "\n Usage : quilvane [-i|-d|-v] <fichier a traiter> <fichier a emettre> <fichier log>\n \n"
@@ -63,9 +61,13 @@ struct texteAlloue {
     operator const char*() const { return texte != nullptr ? texte : ""; }
 };
 
+/** The file being processed. */
+constinit lot vse;
+
 /** Reads the options; false when the run ends here. */
 bool verificationParametre(int argc, char* const argv[]) {
-    faireVSEDate(VSEDate);
+    commencer(vse);
+    faireVSEDate(vse.VSEDate, heureLocale());
     int fautes = 0;
     for (int option = 0; (option = getopt(argc, argv, "D:vdi")) != -1;) {
         switch (option) {
@@ -161,81 +163,60 @@ bool ouvrirFichiers() {
     return true;
 }
 
-/** Counters of the run. */
-struct decompte {
-    int nombreDeVSE = 1;       // place of the next record, the FICH record being 1
-    int nbVSE_Err = 0;         // records in error
-    int formatDuFichier = -1;  // line ends of the file, a `cverseFgetsRet`
-};
-
-/** Reads and processes the records; false when the run ends here with status 1. */
-bool traiterEnregistrements(decompte& d) {
-    static char tampon[TAILLE_TAMPON];
-    ouvrirFlux(fp_recu);
-    for (;;) {
-        const cverseFgetsRet fin = cverseFgets(tampon);
-        if (fin == CVERSE_CTRLZ) return true;
-        if (fin == CVERSE_EOF) {
-            if (!fluxEnErreur()) return true;
-            annuler(IG003);
-            return false;
-        }
-        if (fin == CVERSE_LONGNULLE) {
-            annuler(IG015);
-            return false;
-        }
-        if (fin != CVERSE_MAC) {  // a line that ends in CR alone is counted, not processed
-            if (d.formatDuFichier != -1 && d.formatDuFichier != fin) {
-                consigner(IG008, fp_log);
-                return false;
-            }
-            if (traitement(tampon, visu, d.nombreDeVSE, fin) == FATAL) return false;
-            d.formatDuFichier = fin;
-        }
-        if (nbErreur > 0) ++d.nbVSE_Err;
-        if (existDependanceVSEerr > 0) ++d.nbVSE_Err;
-        nbErreur = 0;
-        ++d.nombreDeVSE;
-        if (d.nombreDeVSE > MAX_NOMBRE_VSE && maxAutoVSE()) {
-            annuler(I073);
-            return false;
-        }
+/** The log line of a condition met while reading. */
+const char* ligneDeLog(eFatal cause) {
+    switch (cause) {
+        case eFatal::IG008: return IG008;
+        case eFatal::IG011: return IG011;
+        case eFatal::IG014: return IG014;
+        case eFatal::IG015: return IG015;
+        case eFatal::I073: return I073;
+        case eFatal::I099: return I099;
+        default: return IG003;
     }
 }
 
-/** What can only be judged at the end of the file; false as above. */
-bool conclure(decompte& d) {
-    if (std::strcmp(entete(E6), "FICH") == 0) {
-        annuler(IG014);
-        return false;
+/** Ends the run on a condition met while reading. */
+bool arreter(eFatal cause) {
+    if (cause == eFatal::IG008)  // the files stay as they are
+        consigner(IG008, fp_log);
+    else
+        annuler(ligneDeLog(cause));
+    return false;
+}
+
+std::size_t lireEntree(void*, unsigned char* bloc, std::size_t taille, bool& erreur) {
+    const std::size_t n = std::fread(bloc, 1, taille, fp_recu);
+    erreur = std::ferror(fp_recu) != 0;
+    return n;
+}
+
+/** Reads and judges the records; false when the run ends here with status 1. */
+bool traiterEnregistrements() {
+    lecteur source;
+    source.remplir = lireEntree;
+    vse.vu = affichageVSE(visu);
+    for (verdict v;;) {
+        const eSuite suite = suivant(vse, source, v);
+        if (suite == SUITE_FIN) break;
+        if (suite == SUITE_ARRET) return arreter(v.fatal);
+        if (suite == SUITE_SAUTE) continue;
+        ajouts a;
+        ajouterVerdict(a, vse, v);
+        ecrireAjouts(a);
     }
-    d.nombreDeVSE -= 2;  // from here on the number of message records
-    if (attendCompagnon()) {
-        ++d.nbVSE_Err;
-        rejeterSansCompagnon(d.formatDuFichier);
-    }
-    if (nombre(valFichCorpsVSE[C3].valeur) != d.nombreDeVSE && errFich < MAX_ERREURS) {
-        codeFichErreur[errFich] = ERR_NOMBRE_VSE;
-        if (errFich == 0) ++d.nbVSE_Err;
-        ++errFich;
-    }
+    const bilan b = conclure(vse);
+    if (b.fatal != eFatal::AUCUN) return arreter(b.fatal);
+    ajouts a;
+    ajouterFin(a, vse, b);
+    ecrireAjouts(a);
     return true;
 }
 
 /** Completes a temporary file with its FICH record and publishes it. */
-int publier(const decompte& d) {
-    const bool valide = d.nbVSE_Err == 0 && errFich == 0;
-    if (valide) {
-        faireFinDeLigne(fp_emis, d.formatDuFichier);
-        faireVSEFICHOk(d.nombreDeVSE);
-    } else {
-        if (errFich > 0) {
-            faireFinDeLigne(fp_erre, d.formatDuFichier);
-            faireVSEERRFich();
-        }
-        faireFinDeLigne(fp_erre, d.formatDuFichier);
-        faireVSEFICHNok(d.nombreDeVSE, d.nbVSE_Err);
-    }
+int publier() {
+    const bool valide = fichierValide(vse);
+    ecrireVSEFICH(vse, valide);
 
     // A result that could not be written whole is not published.
     const bool entier = fermer(valide ? fp_emis : fp_erre);
@@ -264,16 +245,8 @@ int quilvane(int argc, char* const argv[]) {
 
     if (!ouvrirFichiers()) return STATUT_FATAL;
     preparerSorties();
-    reserverVSEFICH(fp_emis);
-    reserverVSEFICH(fp_erre);
-    nbErreur = 0;
-    errFich = 0;
-    decompte d;
-    if (!traiterEnregistrements(d)) return STATUT_FATAL;
-    if (!conclure(d)) return STATUT_FATAL;
-    return publier(d);
+    if (!traiterEnregistrements()) return STATUT_FATAL;
+    return publier();
 }
-
-int maxAutoVSE() { return 1; }
 
 }  // namespace quilvane

@@ -18,9 +18,6 @@ enum eStatut {
  *  to emit and the log file. Returns an `eStatut`. */
 int quilvane(int argc, char* const argv[]);
 
-/** Whether the limit of 10000 message records holds: always 1. */
-int maxAutoVSE();
-
 }  // namespace quilvane
 
 #endif

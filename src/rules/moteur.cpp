@@ -4,11 +4,10 @@
  */
 #include "rules/moteur.h"
 
-#include <cstdio>
 #include <cstring>
 
 #include "checks/lecture.h"
-#include "rules/latin1.h"
+#include "rules/constat.h"
 
 namespace quilvane {
 
@@ -21,8 +20,6 @@ constexpr int ERR_TROP_COURT = 108;
 
 /** What a row asks for a transaction kind; other values are not allowed. */
 enum ePresence { A_VERIFIER = 0, IGNORE = 1, INTERDIT = -1 };
-
-constexpr texteLatin1 MSG_CARACTERE("VSE  cars non autorisés \n");
 
 /** The presence column of a transaction kind, null when no column is its own. */
 using colonne = int sCorps::*;
@@ -39,18 +36,18 @@ colonne colonneDuGenre(const char* genre) {
 }
 
 /** Framing faults of the record; a fault is reset once it is stored. */
-int erreursDeCadrage(int visu, int compte) {
-    const auto noter = [&](int& drapeau, const char* message, int numero) {
-        if (visu == VISU_INFORMATIQUE) std::fputs(message, stdout);
+int erreursDeCadrage(const temoin* vu, int compte) {
+    const auto noter = [&](int& drapeau, int numero) {
+        dire(vu, {.quoi = VU_CADRAGE, .numero = numero});
         if (compte >= MAX_ERREURS) return;
-        compte = ajouterErreur(compte, numero);
+        compte = ajouterErreur(compte, numero, ORIGINE_CADRAGE);
         drapeau = 0;
     };
-    if (codCaract == 1) noter(codCaract, MSG_CARACTERE, ERR_CARACTERE);
+    if (codCaract == 1) noter(codCaract, ERR_CARACTERE);
     if (codLong == 1)
-        noter(codLong, "VSE trop long ", ERR_TROP_LONG);
+        noter(codLong, ERR_TROP_LONG);
     else if (codLong == 2)
-        noter(codLong, "VSE trop court ", ERR_TROP_COURT);
+        noter(codLong, ERR_TROP_COURT);
     return compte;
 }
 
@@ -60,45 +57,49 @@ struct tableAppliquee {
     int nombre;
     valeurVSE* slots;
     const char* genre;   // null: every row is checked
-    const char* lettre;  // names the section in traces
+    const char* lettre;  // names the section to the witness
 };
 
-/** Walks the rows. The console mode is known when this is compiled, so that a
- *  run without traces does not ask for it at each row. */
-template <eVisu visu>
-int appliquer(const tableAppliquee& t, int compte) {
+/** Walks the rows. Whether there is a witness is known when this is compiled,
+ *  so that a run without one does not ask for it at each row. */
+template <bool observe>
+int appliquer(const tableAppliquee& t, int compte, const temoin* vu) {
     const colonne presence = t.genre != nullptr ? colonneDuGenre(t.genre) : nullptr;
     int emplacement = -1;
 
     for (const sCorps* ligne = t.lignes; ligne != t.lignes + t.nombre; ++ligne) {
         if (ligne->debut != 0) ++emplacement;
-        if (visu == VISU_DECRIPTEE) std::printf("champ: %d  ", ligne->numChamp + 1);
+        char* const valeur = t.slots[emplacement].valeur;
+        const auto temoigner = [&](eVu quoi, int numero = 0, int code = 0) {
+            if constexpr (observe)
+                vu->voir(vu->qui, {quoi, ligne, t.lettre, emplacement, valeur, code, numero});
+        };
+        temoigner(VU_LIGNE);
         if (compte >= MAX_ERREURS || ligne->pfVerif == nullptr) continue;
 
-        char* const valeur = t.slots[emplacement].valeur;
         const int code = t.genre == nullptr ? A_VERIFIER : presence == nullptr ? INTERDIT : ligne->*presence;
         if (code == IGNORE) {
-            if (visu == VISU_DECRIPTEE) std::printf("verif ignoree! '%s'\n", valeur);
+            temoigner(VU_IGNOREE);
             continue;
         }
         int numero = ERR_GENRE;
         if (code == A_VERIFIER) {
-            if (visu == VISU_DECRIPTEE) std::printf("'%s'\n", valeur);
+            temoigner(VU_VERIFIEE);
             if (ligne->pfVerif(ligne->dependance, valeur, ligne->sverif, *ligne->plenSverif)) continue;
-            if (visu == VISU_DECRIPTEE) std::printf("! erreurChamp sur [%s]\n", valeur);
             numero = ligne->noErr;
-        } else if (visu == VISU_DECRIPTEE) {
-            std::printf("verifOblg = [%d]\n", code);
+            temoigner(VU_REFUSEE, numero);
+        } else {
+            temoigner(VU_INTERDITE, numero, code);
         }
-        if (visu == VISU_INFORMATIQUE) std::printf("%s%i.%i;", t.lettre, emplacement + 1, numero);
-        compte = ajouterErreur(compte, numero);
+        compte = ajouterErreur(compte, numero, ORIGINE_TABLE, ligne);
     }
     return compte;
 }
 
 }  // namespace
 
-void getvseChamps(const sCorps* tCorps, int lCorps, const char* tampon, valeurVSE* tValVSE, int visu) {
+void getvseChamps(const sCorps* tCorps, int lCorps, const char* tampon, valeurVSE* tValVSE,
+                  const temoin* vu) {
     if (tampon != xdebug) retenirVSE(tampon);
     // Columns that a short record lacks are zeros: a field that reaches into them
     // ends there, one that begins behind the record's end is empty, and all are
@@ -116,16 +117,14 @@ void getvseChamps(const sCorps* tCorps, int lCorps, const char* tampon, valeurVS
             std::memcpy(valeur + i, colonnes + i, PAS);
         valeur[largeur] = '\0';
     }
-    if (visu == VISU_DECRIPTEE) std::fputc('\n', stdout);
+    dire(vu, {.quoi = VU_COUPE});
 }
 
-int verifChamps(int visu, int nbErreurPassee, const sCorps* pChamps, int lpChamps, valeurVSE* valChampsVSE,
-                const char* valE5, const char* premLettre) {
+int verifChamps(const temoin* vu, int nbErreurPassee, const sCorps* pChamps, int lpChamps,
+                valeurVSE* valChampsVSE, const char* valE5, const char* premLettre) {
     const tableAppliquee t = {pChamps, lpChamps, valChampsVSE, valE5, premLettre};
-    const int compte = erreursDeCadrage(visu, nbErreurPassee);
-    if (visu == VISU_INFORMATIQUE) return appliquer<VISU_INFORMATIQUE>(t, compte);
-    if (visu == VISU_DECRIPTEE) return appliquer<VISU_DECRIPTEE>(t, compte);
-    return appliquer<VISU_AUCUNE>(t, compte);
+    const int compte = erreursDeCadrage(vu, nbErreurPassee);
+    return vu != nullptr ? appliquer<true>(t, compte, vu) : appliquer<false>(t, compte, vu);
 }
 
 }  // namespace quilvane

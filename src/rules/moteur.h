@@ -5,31 +5,31 @@
 #define QUILVANE_RULES_MOTEUR_H
 
 #include "rules/pack.h"
+#include "rules/temoin.h"
 
 namespace quilvane {
-
-/** Console mode: `visu` of the engine and of record processing. */
-enum eVisu { VISU_AUCUNE = 0, VISU_INFORMATIQUE = 1, VISU_DECRIPTEE = 2 };
 
 /**
  * Cuts a record into value slots: the n-th row with columns fills slot n-1.
  * Nothing is trimmed or padded; a record that ends inside or before a field
  * gives a shorter or empty slot. `tampon` is made the record in `xdebug` (see
  * `retenirVSE`); it may be `xdebug` itself, to cut the record that is there.
- * `tValVSE` has a slot for every row with columns. In mode -d an empty line is
- * printed.
+ * `tValVSE` has a slot for every row with columns. The witness, if any, is
+ * told `VU_COUPE`.
  */
-void getvseChamps(const sCorps* tCorps, int lCorps, const char* tampon, valeurVSE* tValVSE, int visu);
+void getvseChamps(const sCorps* tCorps, int lCorps, const char* tampon, valeurVSE* tValVSE,
+                  const temoin* vu = nullptr);
 
 /**
  * Applies a table to the slots cut with it. `valE5` is the transaction kind
  * for a body table and null for header, footer and FICH tables, whose rows are
- * all checked. Error numbers go to `codeErreur` behind the `nbErreurPassee`
- * already there, ten at most; the framing faults 106, 107 and 108 come first.
- * `premLettre` names the section in traces ("E", "C", "F"). Returns the new count.
+ * all checked. Errors go to `codeErreur` and `constats` behind the
+ * `nbErreurPassee` already there, ten at most; the framing faults 106, 107 and
+ * 108 come first. `premLettre` names the section to the witness ("E", "C",
+ * "F"). Returns the new count.
  */
-int verifChamps(int visu, int nbErreurPassee, const sCorps* pChamps, int lpChamps, valeurVSE* valChampsVSE,
-                const char* valE5, const char* premLettre);
+int verifChamps(const temoin* vu, int nbErreurPassee, const sCorps* pChamps, int lpChamps,
+                valeurVSE* valChampsVSE, const char* valE5, const char* premLettre);
 
 }  // namespace quilvane
 

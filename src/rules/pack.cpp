@@ -23,17 +23,26 @@ constinit int codLong = 0;
 constinit char bufC11[32] = {};
 constinit vseCorps cp = {};
 
+void viderMagasin() {
+    std::memset(valEnteteVSE, 0, sizeof valEnteteVSE);
+    std::memset(valCorpsVSE, 0, sizeof valCorpsVSE);
+    std::memset(valFinVSE, 0, sizeof valFinVSE);
+    std::memset(valFichEnteteVSE, 0, sizeof valFichEnteteVSE);
+    std::memset(valFichCorpsVSE, 0, sizeof valFichCorpsVSE);
+    std::memset(valFichFinVSE, 0, sizeof valFichFinVSE);
+    std::memset(codeErreur, 0, sizeof codeErreur);
+    std::memset(&cp, 0, sizeof cp);
+    std::memset(xdebug, 0, sizeof xdebug);
+    nbErreur = 0;
+    codCaract = 0;
+    codLong = 0;
+}
+
 void retenirVSE(const char* tampon) {
     const std::size_t longueur = strnlen(tampon, TAILLE_XDEBUG - 1);
     std::memmove(xdebug, tampon, longueur);
     xdebug[longueur] = '\0';
     if (longueur < LARGEUR_VSE) std::memset(xdebug + longueur, 0, LARGEUR_VSE - longueur);
-}
-
-int ajouterErreur(int compte, int numero) {
-    if (compte >= MAX_ERREURS) return compte;
-    codeErreur[compte] = numero;
-    return compte + 1;
 }
 
 void getVseCorps() {

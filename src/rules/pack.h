@@ -86,6 +86,10 @@ inline constexpr int TAILLE_XDEBUG = 4096;
  *  the engine and by checks that look at columns. */
 extern char xdebug[TAILLE_XDEBUG];
 
+/** Puts the field store, the current record and its errors back to what they
+ *  are at the start of a file; `bufC11` stays. */
+void viderMagasin();
+
 /** Makes `tampon` (at most `TAILLE_XDEBUG` - 1 characters) the record in `xdebug`. */
 void retenirVSE(const char* tampon);
 
@@ -105,10 +109,6 @@ extern int codLong;
 /** Part of the first command-line argument between its first two '_' (at most
  *  31 characters). Written once by the driver; read by `fichier_C11`. */
 extern char bufC11[32];
-
-/** Stores `numero` as the `compte`-th error of the current record unless ten
- *  are stored; returns the new count. */
-int ajouterErreur(int compte, int numero);
 
 /** The fixed second cut of a slaughter notice (columns in parentheses). */
 struct vseCorps {

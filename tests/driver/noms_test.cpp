@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "driver/etat.h"
+#include "controle/lot.h"
 #include "support/banc.h"
 
 namespace {

@@ -363,16 +363,66 @@ TEST(Cadrage, FICHMalCadre) {
     const std::string longue = fich(1) + "x";
     rejete(fichier({longue, acti()}),
            fichierErreurs(fich(1), {1, 1, 1}, {erre(fich(1), {107}, clesBlanches(), fich(1))}));
-    // Its footer is not looked at.
+    // Nothing of its footer is there.
     const std::string sansFin = fich(1).substr(0, 230);
-    rejete(fichier({sansFin, acti()}),
-           fichierErreurs(sansFin, {1, 1, 1}, {erre(sansFin, {108}, clesBlanches(), sansFin)}));
+    rejete(
+        fichier({sansFin, acti()}),
+        fichierErreurs(sansFin, {1, 1, 1}, {erre(sansFin, {108, 90, 91, 93, 94}, clesBlanches(), sansFin)}));
     // A short one loses its count as well; its summary is shorter, over blanks.
     const std::string courte = fich(1).substr(0, 70);
     rejete(fichier({courte, acti()}),
-           fichierErreurs(courte, {1, 1, 1}, {erre(courte, {108, 100}, clesBlanches(), courte)}));
+           fichierErreurs(courte, {1, 1, 1},
+                          {erre(courte, {108, 90, 91, 93, 94, 100}, clesBlanches(), courte)}));
     annule(fichier({fich(1).substr(0, 24), acti()}), LOG_IG011);
     annule(fichier({"x", acti()}), LOG_IG011);
+}
+
+// The footer of the FICH record is checked like any other, behind its header;
+// its format version must be "025".
+TEST(Cadrage, FinDuFICH) {
+    const struct {
+        std::string f;
+        std::vector<int> codes;
+    } cas[] = {
+        {avec(fich(1), 245, "024"), {93}},
+        {avec(fich(1), 245, "   "), {93}},
+        {avec(fich(1), 231, "30022024"), {90}},
+        {avec(fich(1), 231, "        "), {90}},
+        {avec(fich(1), 239, "240000"), {91}},
+        {avec(fich(1), 256, " "), {94}},
+        {avec(fich(1), 231, std::string(26, ' ')), {90, 91, 93, 94}},
+        {avec(fich(1), 231, "30022024240000024        ?"), {90, 91, 93, 94}},
+        {avec(fich(1), 248, "ABCDEFGH"), {}},
+        {fich(1).substr(0, 240), {108, 91, 93, 94}},
+        // Behind the faults of the header, before that of the count.
+        {avec(avec(fich(3), 61, "9"), 245, "024"), {97, 93, 100}},
+        {avec(avec(fich(3), 130, "\t"), 256, "?"), {106, 94, 100}},
+    };
+    for (const auto& c : cas) {
+        SCOPED_TRACE(testing::PrintToString(c.codes));
+        if (c.codes.empty())
+            accepte(fichier({c.f, acti()}), fichierEmis(c.f, 1, {acti()}));
+        else
+            rejete(fichier({c.f, acti()}),
+                   fichierErreurs(c.f, {1, 1, 1}, {erre(c.f, c.codes, clesBlanches(), c.f)}));
+    }
+    // Eight errors of framing and header leave room for two more, in their
+    // order; the wrong count then finds none.
+    std::string pleine = fich(3);
+    for (const auto& [colonne, texte] : std::vector<std::pair<int, std::string>>{
+             {3, "ZZZZZZZZ"}, {11, "ZZZZZZZZ"}, {19, "XXX"}, {61, "99"}, {130, "\t"}})
+        poser(pleine, colonne, texte);
+    const std::vector<int> huit = {106, 107, 95, 96, 84, 86, 97, 98};
+    const auto avecFin = [&](const std::string& fin, std::vector<int> suite) {
+        const std::string f = avec(pleine, 257 - static_cast<int>(fin.size()), fin);
+        suite.insert(suite.begin(), huit.begin(), huit.end());
+        rejete(fichier({f + "x", acti()}), fichierErreurs(f, {2, 1, 0},
+                                                          {erre(acti(), {135}, clesExploitation(acti()), f),
+                                                           erre(f, suite, clesBlanches(), f)}));
+    };
+    avecFin("?", {94, 100});
+    avecFin("024        ?", {93, 94});
+    avecFin(std::string(26, ' '), {90, 91});
 }
 
 TEST(Cadrage, SecondFICH) {

@@ -66,7 +66,7 @@ std::string fin(const std::string& r) {
 
 /** The FICH record: its body table is run twice. */
 std::string traceFich(const std::string& f) {
-    return debut(f) + entete(f) + "\n" + coupes(1, 9) + coupes(1, 9);
+    return debut(f) + entete(f) + "\n" + coupes(1, 9) + coupes(1, 9) + fin(f);
 }
 
 /** A correct ACTI creation up to its footer. */
@@ -94,7 +94,7 @@ TEST(Console, DecripteeFichierRejete) {
     const std::string attendu =
         debut(f) + coupe(1) + coupe(2) + bon(3, "089ARS  ") + bon(4, "031BDN  ") + bon(5, "INF") +
         bon(6, "FICH") + bon(6, "FICH") + coupe(7) + bon(8, "078IPG  ") + bon(9, e9) + bon(10, "BDN     ") +
-        coupe(11) + faux(12, "9") + bon(13, "N") + "\n" + coupes(1, 9) + coupes(1, 9) +  //
+        coupe(11) + faux(12, "9") + bon(13, "N") + "\n" + coupes(1, 9) + coupes(1, 9) + fin(f) +  //
         debut(r) + coupe(1) + coupe(2) + bon(3, "089ARS  ") + bon(4, "031BDN  ") + bon(5, "CRE") +
         bon(6, "ACTI") + bon(6, "ACTI") + coupe(7) + bon(8, "078IPG  ") + bon(9, e9) + faux(10, "X       ") +
         coupe(11) + bon(12, "3") + bon(13, "N") + "\n" + bon(1, "FR") + bon(2, c2) + bon(2, c2) + bon(2, c2) +
@@ -184,6 +184,10 @@ TEST(Console, InformatiqueUneLigneParRecord) {
          {avec(fich(1), {{3, "013IPG  "}, {61, "99"}}), avec(acti(), {{27, "013IPG  "}})},
          2,
          "E3.95;E12.97;E13.98;\nC2.50;\n"},
+        {"FICH footer",
+         {avec(fich(1), {{231, "31022024246060024        ?"}}), acti()},
+         2,
+         "F1.90;F2.91;F3.93;F5.94;\n\n"},
         {"FICH count", {fich(9), acti()}, 2, "\n\n"},
         {"unknown type", {fich(1), avec(acti(), {{22, "ACTE"}})}, 2, "\nE6.85;E6.86;\n"},
         {"kind not allowed",
@@ -242,7 +246,7 @@ TEST(Console, InformatiqueCadrage) {
     EXPECT_EQ(console("-i", fichier({fich(1), faux + "\t"}), 2), "\n" + interdit + "VSE trop long C4.81;\n");
     EXPECT_EQ(console("-i", fichier({avec(fich(1), {{61, "9"}}) + "\x80", acti()}), 2),
               interdit + "VSE trop long E12.97;\n\n");
-    EXPECT_EQ(console("-i", fichier({fich(1).substr(0, 250), acti()}), 2), "VSE trop court \n\n");
+    EXPECT_EQ(console("-i", fichier({fich(1).substr(0, 250), acti()}), 2), "VSE trop court F5.94;\n\n");
 }
 
 TEST(Console, AutantDeFinsDeLigneQueDeRecords) {

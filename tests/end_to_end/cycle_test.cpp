@@ -18,6 +18,7 @@
 #include "attgetopt/attgetopt.h"
 #include "driver/etat.h"
 #include "driver/quilvane.h"
+#include "rules/pack.h"
 #include "support/attendu.h"
 
 using namespace essai;

@@ -65,10 +65,9 @@ TEST(Enregistrements, LaFICHEmiseNeReprendPasSesCompteurs) {
                                          {119, "C7C7C7"},
                                          {125, "8"},
                                          {126, std::string(105, '9')},
-                                         {231, "ZZZZZZZZ"},
-                                         {239, "ZZZZZZ"},
-                                         {245, "ZZZ"},
-                                         {256, "Z"}});
+                                         {231, "01011999"},
+                                         {239, "000000"},
+                                         {248, "ZZZZZZZZ"}});
     verifierPublie("FICH record", fichier({f, acti()}), 0,
                    {avec(f, {{113, "000001"}, {126, blancs(105)}}), emise(acti())});
 }
@@ -232,15 +231,16 @@ TEST(Enregistrements, OctetNul) {
 TEST(Enregistrements, VSEFICHCourte) {
     const std::string f = fich(1);
     verifierPublie("200 columns", fichier({f.substr(0, 200), acti()}), 2,
-                   {fichErreur(f, 1, 1, 1), vseErreurInconnue(f, {108})});
+                   {fichErreur(f, 1, 1, 1), vseErreurInconnue(f, {108, 90, 91, 93, 94})});
     // Cut in C7: its summary is shorter and blanks stand behind it.
-    verifierPublie("121 columns", fichier({f.substr(0, 121), acti()}), 2,
-                   {fichErreur(f, 1, 1, 1).erase(121, 3) + blancs(3), vseErreurInconnue(f, {108})});
+    verifierPublie(
+        "121 columns", fichier({f.substr(0, 121), acti()}), 2,
+        {fichErreur(f, 1, 1, 1).erase(121, 3) + blancs(3), vseErreurInconnue(f, {108, 90, 91, 93, 94})});
     // Cut before its last header fields and its whole body.
     const std::string entete = fichErreur(f, 0, 0, 0).substr(0, 60);
     verifierPublie("60 columns", fichier({f.substr(0, 60), acti()}), 2,
                    {entete + "0000010000010000010000011" + blancs(105) + ESTAMPILLE + blancs(40),
-                    vseErreurInconnue(f, {108, 97, 98, 100}).erase(60, 2)});
+                    vseErreurInconnue(f, {108, 97, 98, 90, 91, 93, 94, 100}).erase(60, 2)});
 }
 
 TEST(Enregistrements, PremiereLigneEnCRSeul) {

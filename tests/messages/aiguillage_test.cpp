@@ -3,18 +3,14 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstdio>
-#include <cstdlib>
 #include <string>
 #include <vector>
 
-#include "driver/etat.h"
-#include "driver/flux.h"
-#include "driver/traitement.h"
 #include "messages/messages.h"
 #include "rules/entete.h"
 #include "support/champ.h"
 #include "support/lignes.h"
+#include "support/passage.h"
 
 using namespace quilvane;
 using namespace essai;
@@ -185,18 +181,10 @@ namespace {
 
 /** The error record that `record` draws, without the line end in front. */
 std::string enregistrementEnErreur(const std::string& record) {
-    codesDe(record);  // opens a run: the FICH record is kept
-    char* texte = nullptr;
-    std::size_t longueur = 0;
-    fp_erre = open_memstream(&texte, &longueur);
-    fp_emis = std::fopen("/dev/null", "w");
-    EXPECT_GT(traitement(record.c_str(), 0, 3, CVERSE_UNIX), 0);
-    std::fclose(fp_emis);
-    std::fclose(fp_erre);
-    fp_emis = fp_erre = nullptr;
-    const std::string r(texte, longueur);
-    std::free(texte);
-    return r.substr(1);
+    passage p;
+    p.traiter(fich(1));
+    EXPECT_FALSE(p.traiter(record).empty());
+    return p.erre.substr(1);
 }
 
 /** A body in which no two columns of a type look alike. */

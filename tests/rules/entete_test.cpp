@@ -9,7 +9,6 @@
 #include <vector>
 
 #include "checks/utils.h"
-#include "driver/etat.h"
 #include "rules/moteur.h"
 #include "support/champ.h"
 #include "support/vse.h"
@@ -21,11 +20,11 @@ namespace {
 
 /** Error numbers that the header and footer rules give a record. */
 std::vector<int> controler(const std::string& record) {
-    initialiserEtat();
-    getvseChamps(tEntete, lEntete, record.c_str(), valEnteteVSE, VISU_AUCUNE);
-    getvseChamps(tFin, lFin, record.c_str(), valFinVSE, VISU_AUCUNE);
-    int n = verifChamps(VISU_AUCUNE, 0, tEntete, lEntete, valEnteteVSE, nullptr, "E");
-    n = verifChamps(VISU_AUCUNE, n, tFin, lFin, valFinVSE, nullptr, "F");
+    viderMagasin();
+    getvseChamps(tEntete, lEntete, record.c_str(), valEnteteVSE);
+    getvseChamps(tFin, lFin, record.c_str(), valFinVSE);
+    int n = verifChamps(nullptr, 0, tEntete, lEntete, valEnteteVSE, nullptr, "E");
+    n = verifChamps(nullptr, n, tFin, lFin, valFinVSE, nullptr, "F");
     return {codeErreur, codeErreur + n};
 }
 
@@ -127,8 +126,8 @@ TEST(Entete, LesLignesSansColonnesNeDecalentRien) {
     std::string record(256, '.');
     for (int i = 0; i < 256; ++i)
         record[static_cast<std::size_t>(i)] = static_cast<char>('0' + i % 75);
-    getvseChamps(tEntete, lEntete, record.c_str(), valEnteteVSE, VISU_AUCUNE);
-    getvseChamps(tFin, lFin, record.c_str(), valFinVSE, VISU_AUCUNE);
+    getvseChamps(tEntete, lEntete, record.c_str(), valEnteteVSE);
+    getvseChamps(tFin, lFin, record.c_str(), valFinVSE);
     const int e[13][2] = {{1, 1},   {2, 2},   {3, 10},  {11, 18}, {19, 21}, {22, 25}, {26, 26},
                           {27, 34}, {35, 42}, {43, 50}, {51, 60}, {61, 61}, {62, 62}};
     const int f[5][2] = {{231, 238}, {239, 244}, {245, 247}, {248, 255}, {256, 256}};

@@ -108,26 +108,16 @@ TEST(Pack, DependancesParChamp) {
     EXPECT_STREQ(aucune, "");
 }
 
-// --------------------------------------------------------------- errors
+// ----------------------------------------------------- the start of a file
 
-TEST(Pack, DixErreursAuPlus) {
-    for (int depart = 0; depart <= 12; ++depart) {
-        std::fill(std::begin(codeErreur), std::end(codeErreur), -1);
-        nbErreur = 7;
-        const int compte = ajouterErreur(depart, 500 + depart);
-        EXPECT_EQ(compte, depart < 10 ? depart + 1 : depart);
-        for (int i = 0; i < 11; ++i)
-            EXPECT_EQ(codeErreur[i], i == depart && depart < 10 ? 500 + depart : -1) << depart << " at " << i;
-        EXPECT_EQ(nbErreur, 7) << "the count is its caller's";
-    }
-    int compte = 0;
-    for (int i = 1; i <= 12; ++i)
-        compte = ajouterErreur(compte, i);
-    EXPECT_EQ(compte, 10);
-    for (int i = 0; i < 10; ++i)
-        EXPECT_EQ(codeErreur[i], i + 1);
-    std::fill(std::begin(codeErreur), std::end(codeErreur), 0);
-    nbErreur = 0;
+TEST(Pack, ViderMagasinNeGardeQueLeJetonDuNom) {
+    remplirMagasin("ancien");
+    std::fill(std::begin(codeErreur), std::end(codeErreur), 31);
+    nbErreur = codCaract = codLong = 2;
+    viderMagasin();
+    EXPECT_STREQ(bufC11, "ancien") << "it belongs to the run, not to the file";
+    std::memset(bufC11, 0, sizeof bufC11);
+    EXPECT_TRUE(etatMagasin() == ETAT_INITIAL);
 }
 
 // ------------------------------------------------------- the record kept

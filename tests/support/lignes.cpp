@@ -6,10 +6,8 @@
 #include <set>
 #include <sstream>
 
-#include "driver/etat.h"
-#include "driver/sorties.h"
-#include "driver/traitement.h"
 #include "messages/aiguillage.h"
+#include "support/passage.h"
 
 namespace essai {
 
@@ -37,17 +35,9 @@ int presence(const sCorps& ligne, const std::string& genre) {
 }  // namespace
 
 std::vector<int> codesDe(const std::string& record, const std::string& emetteur) {
-    initialiserEtat();
-    fp_emis = std::fopen("/dev/null", "w");
-    fp_erre = std::fopen("/dev/null", "w");
-    faireVSEDate(VSEDate);
-    EXPECT_EQ(traitement(fich(1, emetteur).c_str(), 0, 1, CVERSE_UNIX), 0) << "FICH record in error";
-    nbErreur = 0;
-    const int n = traitement(record.c_str(), 0, 2, CVERSE_UNIX);
-    std::fclose(fp_emis);
-    std::fclose(fp_erre);
-    fp_emis = fp_erre = nullptr;
-    return {codeErreur, codeErreur + n};
+    passage p;
+    EXPECT_EQ(p.traiter(fich(1, emetteur)), std::vector<int>{}) << "FICH record in error";
+    return p.traiter(record, 0);
 }
 
 void prouverLignes(const preuveType& p) {

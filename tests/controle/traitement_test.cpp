@@ -1,18 +1,17 @@
-#include "driver/traitement.h"
+#include "controle/traitement.h"
 
 #include <gtest/gtest.h>
 
-#include <cstring>
-#include <filesystem>
+#include <algorithm>
 #include <string>
 #include <vector>
 
-#include "driver/etat.h"
-#include "driver/flux.h"
-#include "driver/publication.h"
-#include "rules/moteur.h"
-#include "support/champ.h"
+#include "messages/aiguillage.h"
+#include "rules/constat.h"
+#include "rules/entete.h"
+#include "support/journal.h"
 #include "support/modeles.h"
+#include "support/passage.h"
 
 using namespace quilvane;
 using namespace essai;
@@ -21,54 +20,51 @@ namespace {
 
 using codes = std::vector<int>;
 
-/** A run in memory: the two temporary files, and the records one by one. */
+/** A run in memory, record by record. */
 class Traitement : public testing::Test {
 protected:
-    Traitement() { recommencer(); }
-    ~Traitement() override {
-        fermerFichiers();
-        initialiserEtat();
-    }
-
-    void recommencer(const char* variante = "QUILVANE  ") {
-        fermerFichiers();
-        initialiserEtat();
-        VARIANTE = variante;
-        fp_emis = std::tmpfile();
-        fp_erre = std::tmpfile();
-        std::strcpy(VSEDate, ESTAMPILLE);
-        rang = 1;
-    }
+    ~Traitement() override { VARIANTE = "QUILVANE  "; }
 
     /** Starts a run with the FICH record of this emitter and receiver. */
     void ouvrir(const std::string& emetteur = "089ARS  ", const std::string& recepteur = "031BDN  ",
                 const char* variante = "QUILVANE  ") {
-        recommencer(variante);
+        p.recommencer();
+        VARIANTE = variante;
         codesDe(avec(fich(1), {{3, emetteur}, {11, recepteur}}));
     }
 
-    /** Processes the next record as the record stream does. */
-    codes codesDe(const std::string& record, int format = CVERSE_UNIX) {
-        codLong = record.size() < 256 ? 2 : 0;
-        retour = traitement(record.c_str(), VISU_AUCUNE, rang++, format);
-        EXPECT_EQ(retour, nbErreur);
-        nbErreur = 0;
-        return {codeErreur, codeErreur + (retour > 0 ? retour : 0)};
+    /** Processes the next record. Each of its errors says where it comes from. */
+    codes codesDe(const std::string& record) { return verifies(p.traiter(record)); }
+    codes codesDe(const std::string& record, int longueur, int caractere = 0, int format = CVERSE_UNIX) {
+        return verifies(p.traiter(record, longueur, caractere, format));
     }
 
-    static std::string contenu(std::FILE* fp) {
-        std::string r;
-        std::rewind(fp);
-        for (int c; (c = std::getc(fp)) != EOF;)
-            r += static_cast<char>(c);
-        std::fseek(fp, 0, SEEK_END);
-        return r;
+    codes verifies(const codes& c) const {
+        EXPECT_EQ(p.v.fatal, eFatal::AUCUN);
+        EXPECT_EQ(p.v.erreurs, nbErreur);
+        EXPECT_EQ(p.v.erreurs, static_cast<int>(c.size()));
+        for (std::size_t i = 0; i < c.size(); ++i) {
+            const constat& k = constats[i];
+            EXPECT_EQ(k.numero, c[i]);
+            EXPECT_EQ(k.ligne != nullptr, k.origine == ORIGINE_TABLE) << c[i];
+            EXPECT_EQ(k.origine == ORIGINE_CADRAGE, c[i] >= 106 && c[i] <= 108) << c[i];
+            EXPECT_TRUE(k.ligne == nullptr || c[i] == k.ligne->noErr || c[i] == 86) << c[i];
+        }
+        return c;
     }
-    static std::string emis() { return contenu(fp_emis); }
-    static std::string erre() { return contenu(fp_erre); }
 
-    int rang = 1;
-    int retour = 0;
+    /** The origin of each error of the current record. */
+    std::vector<eOrigine> origines() const {
+        std::vector<eOrigine> o;
+        for (int i = 0; i < p.v.erreurs; ++i)
+            o.push_back(constats[i].origine);
+        return o;
+    }
+
+    const std::string& emis() const { return p.emis; }
+    const std::string& erre() const { return p.erre; }
+
+    passage p;
 };
 
 std::string info() { return vse("INFO", "DEM", {{63, "FR"}, {65, "7812345678  "}}); }
@@ -137,12 +133,12 @@ TEST_F(Traitement, LaVSEFICHEstGardee) {
     const std::string f = avec(fich(7), {{1, "AB"}, {26, "G"}, {51, "K123456789"}, {126, "C9"}, {248, "F4"}});
     EXPECT_EQ(codesDe(f), codes{});
     EXPECT_EQ(emis() + erre(), "");
-    EXPECT_STREQ(sauvEmetteur, "089ARS  ");
-    EXPECT_STREQ(sauvRecepteur, "031BDN  ");
-    EXPECT_STREQ(sauvCodeVSE, "FICH");
-    EXPECT_STREQ(sauvTypeVSE, "INF");
-    EXPECT_EQ(sauvCodeVSEerr, 0);
-    EXPECT_EQ(errFich, 0);
+    EXPECT_STREQ(p.l.sauvEmetteur, "089ARS  ");
+    EXPECT_STREQ(p.l.sauvRecepteur, "031BDN  ");
+    EXPECT_STREQ(p.l.sauvCodeVSE, "FICH");
+    EXPECT_STREQ(p.l.sauvTypeVSE, "INF");
+    EXPECT_EQ(p.l.sauvCodeVSEerr, 0);
+    EXPECT_EQ(p.l.errFich, 0);
     std::string relue;
     // The next record overwrites the current slots, not those of the FICH record.
     EXPECT_EQ(codesDe(acti()), codes{});
@@ -156,9 +152,9 @@ TEST_F(Traitement, LaVSEFICHEstGardee) {
 }
 
 TEST_F(Traitement, EmetteurDUnFichierSansFICH) {
-    EXPECT_STREQ(sauvEmetteur, "XXXXXXXX");
-    EXPECT_STREQ(sauvRecepteur, "XXXXXXXX");
-    rang = 2;
+    EXPECT_STREQ(p.l.sauvEmetteur, "XXXXXXXX");
+    EXPECT_STREQ(p.l.sauvRecepteur, "XXXXXXXX");
+    p.l.nombreDeVSE = 2;
     EXPECT_EQ(codesDe(acti()), codes{135});
 }
 
@@ -183,22 +179,38 @@ TEST_F(Traitement, ErreursDeLaVSEFICH) {
          1,
          1,
          {106, 107, 95, 96, 84, 86, 97, 98}},
-        // Fields of message records only, the body, and the whole footer.
-        {{{27, "ZZZZZZZZ"}, {35, "        "}, {43, "        "}, {79, blancs(152)}, {231, blancs(26)}},
+        // Fields of message records only, and the body.
+        {{{27, "ZZZZZZZZ"}, {35, "        "}, {43, "        "}, {79, blancs(152)}}, 0, 0, {}},
+        // The footer, whose format version only the FICH record must have.
+        {{{231, "31022024"}}, 0, 0, {90}},
+        {{{239, "246060"}}, 0, 0, {91}},
+        {{{245, "024"}}, 0, 0, {93}},
+        {{{256, " "}}, 0, 0, {94}},
+        {{{231, blancs(26)}}, 0, 0, {90, 91, 93, 94}},
+        {{{62, "O"}, {245, "024"}}, 1, 0, {106, 98, 93}},
+        // Ten at most: behind eight of the framing and the header two have room,
+        // behind seven three.
+        {{{3, "ZZZZZZZZ"}, {11, "ZZZZZZZZ"}, {19, "XXX"}, {61, "ZZ"}, {231, blancs(26)}},
+         1,
+         1,
+         {106, 107, 95, 96, 84, 86, 97, 98, 90, 91}},
+        {{{3, "ZZZZZZZZ"}, {11, "ZZZZZZZZ"}, {19, "XXX"}, {61, "ZZ"}, {239, blancs(18)}},
+         1,
          0,
-         0,
-         {}},
+         {106, 95, 96, 84, 86, 97, 98, 91, 93, 94}},
     };
     for (const auto& c : cas) {
-        recommencer();
-        codCaract = c.codCaract;
-        codLong = c.codLong;
-        const int n = traitement(avec(fich(1), c.poses).c_str(), VISU_AUCUNE, 1, CVERSE_UNIX);
-        EXPECT_EQ(codes(codeFichErreur, codeFichErreur + errFich), c.attendus);
-        EXPECT_EQ(n, static_cast<int>(c.attendus.size()));
-        EXPECT_EQ(nbErreur, n);
-        EXPECT_EQ(sauvCodeVSEerr, 0);
+        p.recommencer();
+        EXPECT_EQ(codesDe(avec(fich(1), c.poses), c.codLong, c.codCaract), c.attendus);
+        EXPECT_EQ(codes(p.l.codeFichErreur, p.l.codeFichErreur + p.l.errFich), c.attendus);
+        for (std::size_t i = 0; i < c.attendus.size(); ++i) {
+            EXPECT_EQ(p.l.constatsFich[i].numero, c.attendus[i]);
+            EXPECT_EQ(p.l.constatsFich[i].origine, constats[i].origine);
+            EXPECT_EQ(p.l.constatsFich[i].ligne, constats[i].ligne);
+        }
+        EXPECT_EQ(p.l.sauvCodeVSEerr, 0);
         EXPECT_EQ(codCaract + codLong, 0);
+        EXPECT_EQ(p.v.sansCompagnon, 0);
         EXPECT_EQ(emis() + erre(), "");
     }
 }
@@ -206,44 +218,30 @@ TEST_F(Traitement, ErreursDeLaVSEFICH) {
 TEST_F(Traitement, SansVSEFICHOuSansNumeroDeFichier) {
     const struct {
         std::string premiere;
-        const char* message;  // null: the run goes on
+        eFatal fatal;
     } cas[] = {
-        {acti(), IG011},
-        {avec(fich(1), {{22, "fich"}}), IG011},
-        {fich(1).substr(0, 24), IG011},
-        {avec(fich(1), {{63, blancs(16)}}), I099},
-        {avec(fich(1), {{63, blancs(16)}, {3, "ZZZZZZZZ"}}), I099},
-        {avec(fich(1), {{63, blancs(15) + "1"}}), nullptr},
-        {avec(fich(1), {{63, "1" + blancs(15)}}), nullptr},
-        {avec(fich(1), {{63, blancs(16)}}).substr(0, 77), nullptr},  // only fifteen blanks are there
+        {acti(), eFatal::IG011},
+        {avec(fich(1), {{22, "fich"}}), eFatal::IG011},
+        {fich(1).substr(0, 24), eFatal::IG011},
+        {avec(fich(1), {{63, blancs(16)}}), eFatal::I099},
+        {avec(fich(1), {{63, blancs(16)}, {3, "ZZZZZZZZ"}}), eFatal::I099},
+        {avec(fich(1), {{63, blancs(15) + "1"}}), eFatal::AUCUN},
+        {avec(fich(1), {{63, "1" + blancs(15)}}), eFatal::AUCUN},
+        // Only fifteen blanks are there.
+        {avec(fich(1), {{63, blancs(16)}}).substr(0, 77), eFatal::AUCUN},
     };
     for (const auto& c : cas) {
-        recommencer();
-        const dossier d;
-        const std::string noms[] = {d.nom("recu"), d.nom("emis"), d.nom("recu_r"), d.nom("recu_e"),
-                                    d.nom("recu_o")};
-        name_recu = noms[0].c_str();
-        name_emis = noms[1].c_str();
-        name_tmp_recu = noms[2].c_str();
-        name_tmp_emis = noms[3].c_str();
-        name_erre = noms[4].c_str();
-        for (const char* nom : {"recu_r", "emis", "recu_e", "recu_o"})
-            d.ecrire(nom, nom);
-        fp_log = std::fopen(d.nom("log").c_str(), "w");
-        const int n = traitement(c.premiere.c_str(), VISU_AUCUNE, 1, CVERSE_UNIX);
-        if (c.message == nullptr) {
-            EXPECT_GE(n, 0) << c.premiere;
-            fermer(fp_log);
-            EXPECT_EQ(d.lire("log"), "");
-            continue;
-        }
-        EXPECT_EQ(n, FATAL) << c.message;
-        EXPECT_EQ(FATAL, -2);
-        EXPECT_EQ(fp_emis, nullptr);
-        EXPECT_EQ(fp_erre, nullptr);
-        EXPECT_TRUE(d.lire("log").ends_with(std::string(" : ") + c.message + "\n")) << d.lire("log");
-        EXPECT_EQ(d.lire("recu"), "recu_r");
-        EXPECT_EQ(d.contenu().size(), 2U) << "the input and the log";
+        p.recommencer();
+        journal j;
+        p.l.vu = &j.vu;
+        p.traiter(c.premiere);
+        EXPECT_EQ(p.v.fatal, c.fatal) << c.premiere;
+        // Nothing is kept of it, and its trace stays open.
+        const bool garde = c.fatal == eFatal::AUCUN;
+        EXPECT_EQ(p.l.sauvCodeVSE, std::string(garde ? "FICH" : ""));
+        EXPECT_EQ(p.l.sauvEmetteur, std::string(garde ? "089ARS  " : "XXXXXXXX"));
+        EXPECT_EQ(j.texte.ends_with("termine\n"), garde) << j.texte;
+        EXPECT_EQ(emis() + erre(), "");
     }
 }
 
@@ -299,72 +297,12 @@ TEST_F(Traitement, ReglesDAdmission) {
     EXPECT_EQ(codesDe(avec(acti(), {{27, "001IPG  "}, {65, "01123456    "}})), codes{});
 }
 
-// Runs that follow each other in one process start alike.
-TEST(Etat, RevientAuDebutDuProcessus) {
-    struct variable {
-        const char* nom;
-        void* adresse;
-        std::size_t taille;
-        const char* texte = "";  // its first bytes; zeros follow
-    };
-#define VARIABLE(nom) \
-    { #nom, static_cast < void*>(&nom), sizeof nom }
-    const variable VARIABLES[] = {
-        VARIABLE(name_recu),
-        VARIABLE(name_emis),
-        VARIABLE(name_log),
-        VARIABLE(name_tmp_recu),
-        VARIABLE(name_tmp_emis),
-        VARIABLE(name_erre),
-        VARIABLE(fp_log),
-        VARIABLE(fp_recu),
-        VARIABLE(fp_emis),
-        VARIABLE(fp_erre),
-        VARIABLE(VSEDate),
-        VARIABLE(visu),
-        {"sauvEmetteur", sauvEmetteur, sizeof sauvEmetteur, "XXXXXXXX"},
-        {"sauvRecepteur", sauvRecepteur, sizeof sauvRecepteur, "XXXXXXXX"},
-        VARIABLE(codeFichErreur),
-        VARIABLE(errFich),
-        VARIABLE(sauvCodeVSE),
-        VARIABLE(sauvTypeVSE),
-        VARIABLE(sauvCodeVSEerr),
-        VARIABLE(sauvLienVSE),
-        VARIABLE(sauvTamponVSE),
-        VARIABLE(existDependanceVSEerr),
-        VARIABLE(err_aux),
-        VARIABLE(valEnteteVSE),
-        VARIABLE(valCorpsVSE),
-        VARIABLE(valFinVSE),
-        VARIABLE(valFichEnteteVSE),
-        VARIABLE(valFichCorpsVSE),
-        VARIABLE(valFichFinVSE),
-        VARIABLE(codeErreur),
-        VARIABLE(bufC11),
-        VARIABLE(cp),
-        VARIABLE(nbErreur),
-        VARIABLE(codCaract),
-        VARIABLE(codLong),
-    };
-#undef VARIABLE
-    for (const variable& v : VARIABLES)
-        std::memset(v.adresse, 0x5A, v.taille);
-    VARIANTE = "QUILVANED ";
-    xdebug[0] = '?';
-    initialiserEtat();
-    for (const variable& v : VARIABLES) {
-        std::string attendus(v.taille, '\0');
-        attendus.replace(0, std::strlen(v.texte), v.texte);
-        EXPECT_TRUE(std::memcmp(v.adresse, attendus.data(), v.taille) == 0) << v.nom;
-    }
-    EXPECT_STREQ(VARIANTE, "QUILVANE  ");
-    EXPECT_STREQ(xdebug, "");
-}
-
 TEST_F(Traitement, AdmissionAvantLesTables) {
     ouvrir("013ARS  ", "BDN     ");
     EXPECT_EQ(codesDe(avec(info(), {{43, "        "}, {63, "??"}, {256, " "}})),
               (codes{135, 110, 85, 88, 1, 94}));
+    EXPECT_EQ(origines(), (std::vector<eOrigine>{ORIGINE_ADMISSION, ORIGINE_ADMISSION, ORIGINE_ADMISSION,
+                                                 ORIGINE_TABLE, ORIGINE_TABLE, ORIGINE_TABLE}));
 }
 
 TEST_F(Traitement, SecondeVSEFICH) {
@@ -383,11 +321,9 @@ TEST_F(Traitement, DixErreursAvantLAiguillage) {
     ouvrir();
     const std::string pleine = avec(
         fich(1), {{3, "ZZZZZZZZ"}, {11, "ZZZZZZZZ"}, {19, "XXX"}, {27, "ZZZZZZZZ"}, {61, "ZZ"}, {256, "Z"}});
-    codCaract = 1;
-    codLong = 1;
-    EXPECT_EQ(traitement(pleine.c_str(), VISU_AUCUNE, 2, CVERSE_UNIX), 10);
     const codes attendus = {135, 109, 106, 107, 95, 96, 84, 86, 97, 98};
-    EXPECT_EQ(codes(codeErreur, codeErreur + 10), attendus);
+    EXPECT_EQ(codesDe(pleine, 1, 1), attendus);
+    EXPECT_EQ(p.v.itAiguil, ERR_AIGUILLAGE);
     EXPECT_EQ(erre(), "\n" + vseErreurInconnue(pleine, attendus));
 }
 
@@ -399,7 +335,7 @@ TEST_F(Traitement, TypeInconnu) {
         // Neither the body nor the footer is looked at.
         EXPECT_EQ(codesDe(inconnue), (codes{85, 86})) << type;
         EXPECT_EQ(erre(), "\n" + vseErreurInconnue(inconnue, {85, 86})) << type;
-        EXPECT_EQ(err_aux, 0);
+        EXPECT_EQ(p.l.err_aux, 0);
     }
     // The partner rule does not run either.
     ouvrir("NORMABEV");
@@ -409,12 +345,14 @@ TEST_F(Traitement, TypeInconnu) {
 TEST_F(Traitement, OrdreDesErreurs) {
     ouvrir();
     // Framing, header, body, variant rule, footer.
-    codCaract = 1;
-    codLong = 1;
     const std::string r =
         avec(acti(), {{43, "        "}, {77, "xx"}, {79, "9"}, {231, "31022024"}, {256, " "}});
-    const int n = traitement(r.c_str(), VISU_AUCUNE, rang++, CVERSE_UNIX);
-    EXPECT_EQ(codes(codeErreur, codeErreur + n), (codes{106, 107, 88, 81, 51, 90, 94}));
+    EXPECT_EQ(codesDe(r, 1, 1), (codes{106, 107, 88, 81, 51, 90, 94}));
+    EXPECT_EQ(origines(),
+              (std::vector<eOrigine>{ORIGINE_CADRAGE, ORIGINE_CADRAGE, ORIGINE_TABLE, ORIGINE_TABLE,
+                                     ORIGINE_PARTENAIRE, ORIGINE_TABLE, ORIGINE_TABLE}));
+    EXPECT_EQ(constats[2].ligne->numChamp, int{E10});
+    EXPECT_EQ(constats[6].ligne, &tFin[lFin - 1]);
     EXPECT_EQ(codCaract + codLong, 0);
     EXPECT_EQ(codesDe(acti()), codes{}) << "nothing is left of the record before";
 }
@@ -427,7 +365,7 @@ TEST_F(Traitement, DixErreursAuPlus) {
     // Neither the variant rule nor the footer finds room for its error.
     const std::string plus = avec(onze, {{77, "xx"}, {231, blancs(26)}});
     EXPECT_EQ(codesDe(plus), DIX_ERREURS);
-    EXPECT_EQ(err_aux, 51);
+    EXPECT_EQ(p.l.err_aux, 51);
     EXPECT_EQ(erre(), "\n" + vseErreurC1C2(actiDixErreurs(), DIX_ERREURS) + "\n" +
                           vseErreurC1C2(onze, DIX_ERREURS) + "\n" + vseErreurC1C2(plus, DIX_ERREURS));
     // The footer fills the place that is left.
@@ -465,7 +403,7 @@ TEST_F(Traitement, ReglesDeVariante) {
         EXPECT_EQ(codesDe(avec(acti(), {{77, c.c3}, {256, " "}})),
                   c.code == 0 ? codes{94} : (codes{c.code, 94}))
             << c.variante << c.emetteur << c.c3;
-        EXPECT_EQ(err_aux, c.code) << c.variante << c.emetteur << c.c3;
+        EXPECT_EQ(p.l.err_aux, c.code) << c.variante << c.emetteur << c.c3;
     }
     // Only the build "QUILVANE  " compares emitter and departmental body.
     for (const char* variante : {QUILVANE, D, L, PF}) {
@@ -483,12 +421,12 @@ TEST_F(Traitement, PasDeRegleDeVarianteSurUneERRE) {
     const std::string r = vse("ERRE", "ECQ", {{63, "ABATCRE"}, {70, "xx"}});
     for (const int code : codesDe(r))
         EXPECT_TRUE(code != 51 && code != 64) << code;
-    EXPECT_EQ(err_aux, 0);
+    EXPECT_EQ(p.l.err_aux, 0);
     // The rule forgets the record before.
     codesDe(avec(acti(), {{77, "xx"}}));
-    EXPECT_EQ(err_aux, 51);
+    EXPECT_EQ(p.l.err_aux, 51);
     codesDe(acti());
-    EXPECT_EQ(err_aux, 0);
+    EXPECT_EQ(p.l.err_aux, 0);
 }
 
 TEST_F(Traitement, ReglePartenaire) {
@@ -530,15 +468,16 @@ TEST_F(Traitement, ReglePartenaire) {
     EXPECT_EQ(codesDe(jalo()), codes{135});
     // After the variant rule, and only while there is room.
     EXPECT_EQ(codesDe(avec(acti(), {{77, "xx"}})), (codes{135, 51, 182}));
+    EXPECT_EQ(origines(), (std::vector<eOrigine>{ORIGINE_ADMISSION, ORIGINE_PARTENAIRE, ORIGINE_PARTENAIRE}));
     EXPECT_EQ(codesDe(actiDixErreurs()), DIX_ERREURS);
 }
 
 TEST_F(Traitement, Decision) {
     ouvrir();
-    EXPECT_EQ(codesDe(acti(), CVERSE_DOS), codes{});
+    EXPECT_EQ(codesDe(acti(), 0, 0, CVERSE_DOS), codes{});
     const std::string fausse = avec(acti(), {{79, "9"}});
-    EXPECT_EQ(codesDe(fausse, CVERSE_DOS), codes{81});
-    EXPECT_EQ(codesDe(avec(acti(), {{77, "  "}}), CVERSE_DOS), codes{});
+    EXPECT_EQ(codesDe(fausse, 0, 0, CVERSE_DOS), codes{81});
+    EXPECT_EQ(codesDe(avec(acti(), {{77, "  "}}), 0, 0, CVERSE_DOS), codes{});
     EXPECT_EQ(emis(), "\r\n" + emise(acti()) + "\r\n" + emise(acti()));
     EXPECT_EQ(erre(), "\r\n" + vseErreurC1C2(fausse, {81}));
 }
@@ -592,7 +531,7 @@ TEST_F(Traitement, AppariementDesVSE) {
     for (const auto& c : cas) {
         ouvrir();
         codesDe(c.premiere);
-        EXPECT_EQ(existDependanceVSEerr, 0) << c.nom;
+        EXPECT_EQ(p.l.existDependanceVSEerr, 0) << c.nom;
         const std::string avant = erre();
         const codes suivants = codesDe(c.suivante);
         const std::string apres = erre().substr(avant.size());
@@ -600,79 +539,116 @@ TEST_F(Traitement, AppariementDesVSE) {
                                          ? ""
                                          : "\n" + (c.code == 105 ? vseErreurC1C2(c.premiere, {105})
                                                                  : vseErreurSansCle(c.premiere, {138}));
+        EXPECT_EQ(p.v.sansCompagnon, c.code) << c.nom;
+        EXPECT_EQ(c.code == 0 ? "" : "\n" + std::string(p.l.tamponSansCompagnon), orphelin) << c.nom;
         // It follows the next record's own error record.
         EXPECT_EQ(apres.size(), orphelin.size() + (suivants.empty() ? 0 : 257)) << c.nom;
         EXPECT_TRUE(apres.ends_with(orphelin)) << c.nom;
-        EXPECT_EQ(existDependanceVSEerr, c.code == 0 ? 0 : 1) << c.nom;
-        EXPECT_EQ(sauvCodeVSE, colonnes(c.suivante, 22, 25)) << c.nom;
-        EXPECT_EQ(sauvTypeVSE, colonnes(c.suivante, 19, 21)) << c.nom;
-        EXPECT_EQ(sauvCodeVSEerr, static_cast<int>(suivants.size())) << c.nom;
+        EXPECT_EQ(p.l.existDependanceVSEerr, c.code == 0 ? 0 : 1) << c.nom;
+        EXPECT_EQ(p.l.sauvCodeVSE, colonnes(c.suivante, 22, 25)) << c.nom;
+        EXPECT_EQ(p.l.sauvTypeVSE, colonnes(c.suivante, 19, 21)) << c.nom;
+        EXPECT_EQ(p.l.sauvCodeVSEerr, static_cast<int>(suivants.size())) << c.nom;
     }
 }
 
 TEST_F(Traitement, AttenteDuCompagnon) {
     EXPECT_EQ(dependanceVSE(), 1);
+    const std::string ancien(LARGEUR_VSE, '?');
+    const auto rien = [&] {
+        std::strcpy(p.l.tamponSansCompagnon, ancien.c_str());
+        p.l.existDependanceVSEerr = 0;
+        return sansCompagnon(p.l) == 0 && p.l.existDependanceVSEerr == 0 && p.l.tamponSansCompagnon == ancien;
+    };
     ouvrir();
-    EXPECT_FALSE(attendCompagnon());
+    EXPECT_TRUE(rien());
     codesDe(exp1());
-    EXPECT_TRUE(attendCompagnon());
-    EXPECT_STREQ(sauvLienVSE, LIEN_EXP);
-    EXPECT_EQ(sauvTamponVSE, vseErreurC1C2(exp1(), {105}));
+    EXPECT_STREQ(p.l.sauvLienVSE, LIEN_EXP);
+    EXPECT_EQ(p.l.sauvTamponVSE, vseErreurC1C2(exp1(), {105}));
+    EXPECT_EQ(sansCompagnon(p.l), 105);
+    EXPECT_EQ(p.l.existDependanceVSEerr, 1);
+    EXPECT_EQ(p.l.tamponSansCompagnon, vseErreurC1C2(exp1(), {105}));
     codesDe(exp2());
-    EXPECT_FALSE(attendCompagnon());
+    EXPECT_TRUE(rien());
     codesDe(avec(eget(), {{19, "INV"}}));
-    EXPECT_FALSE(attendCompagnon());
+    EXPECT_TRUE(rien());
     codesDe(eget());
-    EXPECT_TRUE(attendCompagnon());
-    EXPECT_STREQ(sauvLienVSE, LIEN_EGET);
-    EXPECT_EQ(sauvTamponVSE, vseErreurSansCle(eget(), {138}));
+    EXPECT_STREQ(p.l.sauvLienVSE, LIEN_EGET);
+    EXPECT_EQ(p.l.sauvTamponVSE, vseErreurSansCle(eget(), {138}));
     EXPECT_EQ(erre(), "");
-    rejeterSansCompagnon(CVERSE_DOS);
-    EXPECT_EQ(erre(), "\r\n" + vseErreurSansCle(eget(), {138}));
-    EXPECT_EQ(existDependanceVSEerr, 1);
+    EXPECT_EQ(sansCompagnon(p.l), 138);
+    EXPECT_EQ(p.l.tamponSansCompagnon, vseErreurSansCle(eget(), {138}));
+    EXPECT_EQ(p.l.existDependanceVSEerr, 1);
     codesDe(rata());
-    EXPECT_EQ(existDependanceVSEerr, 0);
+    EXPECT_EQ(p.l.existDependanceVSEerr, 0);
     codesDe(avec(exp1(), {{79, "????"}}));
-    EXPECT_FALSE(attendCompagnon()) << "an EXP1 in error waits for nothing";
+    EXPECT_TRUE(rien()) << "an EXP1 in error waits for nothing";
 }
 
-TEST_F(Traitement, TraceDUneVSE) {
+// The next pair may open with the record that breaks the one before: the error
+// record of the first is written, that of the second is kept.
+TEST_F(Traitement, DeuxPairesSeSuivent) {
     ouvrir();
-    const std::string fausse = avec(acti(), {{43, "        "}, {79, "9"}, {256, " "}});
-    testing::internal::CaptureStdout();
-    traitement(acti().c_str(), VISU_INFORMATIQUE, 2, CVERSE_UNIX);
-    EXPECT_EQ(testing::internal::GetCapturedStdout(), "\n");
-    testing::internal::CaptureStdout();
-    traitement(fausse.c_str(), VISU_INFORMATIQUE, 3, CVERSE_UNIX);
-    EXPECT_EQ(testing::internal::GetCapturedStdout(), "E10.88;C4.81;F5.94;\n");
-    testing::internal::CaptureStdout();
-    traitement(fausse.c_str(), VISU_DECRIPTEE, 4, CVERSE_UNIX);
-    const std::string trace = testing::internal::GetCapturedStdout();
-    EXPECT_TRUE(trace.starts_with("VSE=|" + fausse + "|\n\n\nchamp: 1  champ: 2  champ: 3  '089ARS  '\n"))
-        << trace;
-    EXPECT_EQ(trace.find("VSE=|", 1), std::string::npos) << "printed once";
-    // Errors of admission and pairing are not shown.
-    testing::internal::CaptureStdout();
-    traitement(avec(acti(), {{27, "004IPG  "}, {65, "04123456    "}}).c_str(), VISU_INFORMATIQUE, 5,
-               CVERSE_UNIX);
-    EXPECT_EQ(testing::internal::GetCapturedStdout(), "\n");
-    EXPECT_EQ(nbErreur, 1);
+    codesDe(exp1());
+    EXPECT_EQ(codesDe(eget()), codes{});
+    EXPECT_EQ(p.v.sansCompagnon, 105);
+    EXPECT_EQ(erre(), "\n" + vseErreurC1C2(exp1(), {105}));
+    EXPECT_EQ(codesDe(acti()), codes{});
+    EXPECT_EQ(p.v.sansCompagnon, 138);
+    EXPECT_EQ(erre(), "\n" + vseErreurC1C2(exp1(), {105}) + "\n" + vseErreurSansCle(eget(), {138}));
+    EXPECT_EQ(emis(), "\n" + emise(exp1()) + "\n" + emise(eget()) + "\n" + emise(acti()));
 }
 
-TEST_F(Traitement, TablesParcouruesEnModeD) {
+TEST_F(Traitement, CeQueVoitLeTemoin) {
+    journal j;
+    const auto vus = [&](const std::string& record) {
+        j.vider();
+        p.l.vu = &j.vu;
+        codesDe(record);
+        EXPECT_TRUE(j.texte.starts_with("record\ncoupe\ncoupe\nE1 champ 1\n")) << j.texte;
+        EXPECT_TRUE(j.texte.ends_with("\ntermine\n")) << j.texte;
+        EXPECT_EQ(j.texte.find("record\n", 1), std::string::npos) << "told once";
+        return j.refus;
+    };
+    EXPECT_EQ(vus(fich(1)), "");
+    EXPECT_EQ(vus(acti()), "");
+    EXPECT_EQ(vus(avec(acti(), {{43, "        "}, {79, "9"}, {256, " "}})), "E10.88;C4.81;F5.94;");
+    // Errors of admission, partner and pairing rules are no row's.
+    EXPECT_EQ(vus(avec(acti(), {{27, "004IPG  "}, {65, "04123456    "}})), "");
+    EXPECT_EQ(nbErreur, 1);
+    EXPECT_EQ(vus(avec(acti(), {{77, "xx"}})), "");
+    EXPECT_EQ(nbErreur, 1);
+    EXPECT_EQ(vus(exp1()), "");
+    EXPECT_EQ(vus(acti()), "");
+    EXPECT_EQ(p.v.sansCompagnon, 105);
+}
+
+TEST_F(Traitement, TablesParcourues) {
     const auto champsParcourus = [this](const std::string& record) {
-        testing::internal::CaptureStdout();
-        traitement(record.c_str(), VISU_DECRIPTEE, rang++, CVERSE_UNIX);
-        const std::string trace = testing::internal::GetCapturedStdout();
+        journal j;
+        p.l.vu = &j.vu;
+        codesDe(record);
         int n = 0;
-        for (std::size_t p = 0; (p = trace.find("champ: ", p)) != std::string::npos; ++p)
+        for (std::size_t i = 0; (i = j.texte.find(" champ ", i)) != std::string::npos; ++i)
             ++n;
         return n;
     };
-    // Header, then the FICH body twice; its footer is not looked at.
-    EXPECT_EQ(champsParcourus(fich(1)), 14 + 9 + 9);
+    // Header, then the FICH body twice, then the footer.
+    EXPECT_EQ(champsParcourus(fich(1)), 14 + 9 + 9 + 6);
     EXPECT_EQ(champsParcourus(acti()), 14 + 12 + 6);
     // Ten errors: the body's rows are still walked, the footer's are not.
     EXPECT_EQ(champsParcourus(actiDixErreurs()), 14 + 12);
     EXPECT_EQ(champsParcourus(avec(acti(), {{22, "XXXX"}})), 14);
+}
+
+// What a record leaves in the store does not reach the next one.
+TEST_F(Traitement, RienNeResteDuRecordDAvant) {
+    ouvrir();
+    const std::string courte = acti().substr(0, 40);
+    const codes seule = codesDe(courte);
+    ouvrir();
+    codesDe(actiDixErreurs(), 1, 1);
+    codesDe(avec(acti(), {{22, "XXXX"}}));
+    EXPECT_EQ(codesDe(courte), seule);
+    for (std::size_t i = seule.size(); i < MAX_ERREURS; ++i)
+        EXPECT_EQ(codeErreur[i], 0) << i;
 }
