@@ -1,12 +1,11 @@
 #include "driver/publication.h"
 
-#include <sys/stat.h>
-
 #include <cerrno>
-#include <initializer_list>
 
 #include "calendar/horloge.h"
 #include "driver/etat.h"
+#include "driver/processus.h"
+#include "driver/travail.h"
 #include "rules/latin1.h"
 
 namespace quilvane {
@@ -32,24 +31,27 @@ constexpr texteLatin1 MSG_IG015("IG015: Présence de VSE de longueur nulle");
 constexpr texteLatin1 MSG_I073("I073 : Plus de 10000 enregistrements dans le fichier");
 constexpr texteLatin1 MSG_I099("I099 : Donnée absente : numéro du fichier émis");
 
-bool memeNoeud(const struct stat& a, const struct stat& b) {
-    return a.st_dev == b.st_dev && a.st_ino == b.st_ino;
+/** Gives the held input its name back; false, with the reason, when it cannot be. */
+bool reprendreNom() {
+    if (estTenu(name_recu, tenu_recu)) return true;  // somebody else has done so
+    std::remove(name_recu);
+    errno = ENOENT;
+    return estTenu(name_tmp_recu, tenu_recu) && std::rename(name_tmp_recu, name_recu) == 0;
 }
 
 /** Gives the input back and clears the rest; false when it cannot be given
  *  back, and everything has then been removed and IG009 logged. */
 bool rendreEntree() {
-    std::remove(name_recu);
-    if (std::rename(name_tmp_recu, name_recu) != 0) {
+    const bool rendue = reprendreNom();
+    if (!rendue) {
         std::perror("rename");
-        for (const char* nom : {name_tmp_recu, name_tmp_emis, name_emis, name_erre})
-            std::remove(nom);
-        consigner(IG009, fp_log);
-        return false;
+        retirer(name_tmp_recu, tenu_recu);
     }
-    for (const char* nom : {name_tmp_emis, name_emis, name_erre})
-        if (!memeFichier(nom, name_recu)) std::remove(nom);
-    return true;
+    retirer(name_tmp_emis, tenu_tmp_emis);
+    if (!rendue || !memeFichier(name_emis, name_recu)) retirer(name_emis, tenu_emis);
+    retirer(name_erre, tenu_erre);
+    if (!rendue) consigner(IG009, fp_log);
+    return rendue;
 }
 
 }  // namespace
@@ -66,12 +68,6 @@ constexpr const char* IG014 = MSG_IG014;
 constexpr const char* IG015 = MSG_IG015;
 constexpr const char* I073 = MSG_I073;
 constexpr const char* I099 = MSG_I099;
-
-bool memeFichier(const char* nom, const char* autre) {
-    struct stat a;
-    struct stat b;
-    return stat(nom, &a) == 0 && stat(autre, &b) == 0 && memeNoeud(a, b);
-}
 
 int fermer(std::FILE*& fp) {
     if (fp == nullptr) return 1;
@@ -95,22 +91,19 @@ void consigner(const char* erreur, std::FILE* fp) {
     std::fprintf(fp, "Le %02d/%02d/%04d a %02d:%02d:%02d : %s\n", t.tm_mday, t.tm_mon + 1, t.tm_year + 1900,
                  t.tm_hour, t.tm_min, t.tm_sec, erreur);
     if (fp == fp_log) fp_log = nullptr;
-    std::fclose(fp);
+    if (!fermer(fp)) signalerEcriture();
 }
 
 int emettre(const char* name_emettre) {
-    // An output name that denotes the input is replaced by the renaming alone,
-    // so that there is no moment at which neither exists.
-    if (!memeFichier(name_emis, name_tmp_recu)) std::remove(name_emis);
-    return std::rename(name_emettre, name_emis) == 0 ? 0 : renoncer();
-}
-
-void retirerTravail(const char* nom) {
-    // The name itself is compared: a link to the result may go.
-    struct stat resultat;
-    struct stat autre;
-    if (stat(name_emis, &resultat) == 0 && lstat(nom, &autre) == 0 && memeNoeud(resultat, autre)) return;
-    std::remove(nom);
+    // A file that is renamed to itself would seem to be published.
+    if (memeFichier(name_emettre, name_emis)) std::remove(name_emis);
+    if (std::rename(name_emettre, name_emis) == 0) return 0;
+    const int cause = errno;
+    const bool occupe = cause == EEXIST || cause == EISDIR || cause == ENOTEMPTY;
+    if (occupe && std::remove(name_emis) == 0)
+        return std::rename(name_emettre, name_emis) == 0 ? 0 : renoncer();
+    errno = cause;
+    return renoncer();
 }
 
 int renoncer() {

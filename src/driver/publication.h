@@ -23,9 +23,6 @@ extern const char* const IG015;  // empty line
 extern const char* const I073;   // more than 10000 records
 extern const char* const I099;   // FICH file number blank
 
-/** Whether two names, themselves or as links, denote one file. */
-bool memeFichier(const char* nom, const char* autre);
-
 /** Closes the input, output and error files that are open; the log stays open. */
 void fermerFichiers();
 
@@ -35,14 +32,15 @@ void fermerFichiers();
  */
 int fermer(std::FILE*& fp);
 
-/** Writes "Le DD/MM/YYYY a HH:MM:SS : <erreur>" to the log and closes it. A
- *  null stream, as after a first message, does nothing. */
+/** Writes "Le DD/MM/YYYY a HH:MM:SS : <erreur>" to the log and closes it; a
+ *  write that fails is told on standard error. A null stream, as after a first
+ *  message, does nothing. */
 void consigner(const char* erreur, std::FILE* fp);
 
 /**
- * Publishes the file `name_emettre` under the output name. Returns 0; or 1
- * when it cannot be renamed, and the input has then been given back and the
- * failure logged (see `renoncer`).
+ * Publishes the file `name_emettre` under the output name, over what stands
+ * there. Returns 0; or 1 when it cannot be renamed, and the input has then been
+ * given back and the failure logged (see `renoncer`).
  */
 int emettre(const char* name_emettre);
 
@@ -53,12 +51,9 @@ int emettre(const char* name_emettre);
  */
 int renoncer();
 
-/** Removes the working file `nom` of a published run, unless the output was
- *  given that name. */
-void retirerTravail(const char* nom);
-
 /** Undoes a run whose files are closed: gives the input back and removes the
- *  temporary and output files; logs IG009 when it cannot be given back. */
+ *  temporary and output files; logs IG009 when it cannot be given back. A name
+ *  that no longer is the file that the run holds is left alone. */
 void nePasEmettre();
 
 /** Ends a run on a fatal condition: closes the files, undoes, logs `erreur`. */

@@ -18,8 +18,10 @@
 #include "driver/console.h"
 #include "driver/etat.h"
 #include "driver/noms.h"
+#include "driver/processus.h"
 #include "driver/publication.h"
 #include "driver/sorties.h"
+#include "driver/travail.h"
 #include "rules/latin1.h"
 
 namespace quilvane {
@@ -113,34 +115,27 @@ bool ouvrirFichiers() {
         errno = EEXIST;
         return echec(OUVERTURE_LOG, IG001);
     }
-    fp_log = std::fopen(name_log, "w");
+    fp_log = ouvrirLog(name_log);
     if (fp_log == nullptr) return echec(OUVERTURE_LOG, IG001);
 
-    std::FILE* essai = nullptr;
     errno = ENOENT;  // what is there now may be the log that was just made
-    if (!memeFichier(name_log, name_recu)) essai = std::fopen(name_recu, "r");
-    if (essai == nullptr) return echec(OUVERTURE_RECU, IG003);
-    fermer(essai);
+    if (memeFichier(name_log, name_recu) || !tenirEntree(name_recu)) return echec(OUVERTURE_RECU, IG003);
+    if (!estFichierOuDossier(name_emis)) return echec(OUVERTURE_EMIS, IG003);
 
     const bool lienVersEntree = sortieEstLienVersEntree();
     name_tmp_recu = nomAlloue(dir_name_recu, fic_name_recu, "_r", MSG_MEMOIRE_RECU);
-    if (std::rename(name_recu, name_tmp_recu) != 0) return echec("rename", IG009);
+    if (!renommerEntree(name_recu, name_tmp_recu)) return echec("rename", IG009);
 
-    fp_recu = std::fopen(name_tmp_recu, "rb");
+    fp_recu = ouvrirEntree(name_tmp_recu);
     if (fp_recu == nullptr) return echec(OUVERTURE_TMP_RECU, IG003);
 
     // A link to the input's name leads nowhere now: opening it would make an
     // empty file under that name.
     const bool lienRompu = lienVersEntree && !memeFichier(name_emis, name_emis);
-    if (!lienRompu) {
-        // An output name that denotes the input must not empty it.
-        essai = std::fopen(name_emis, memeFichier(name_emis, name_tmp_recu) ? "a" : "w");
-        if (essai == nullptr) return echec(OUVERTURE_EMIS, IG003);
-        fermer(essai);
-    }
+    if (!lienRompu && !ouvrirSortie(name_emis)) return echec(OUVERTURE_EMIS, IG003);
 
     name_tmp_emis = nomAlloue(dir_name_emis, fic_name_recu, "_e", MSG_MEMOIRE_EMIS);
-    fp_emis = std::fopen(name_tmp_emis, "w");
+    fp_emis = ouvrirTravail(name_tmp_emis, tenu_tmp_emis);
     if (fp_emis == nullptr) {
         // The log is closed before its message, which is thus lost.
         std::perror(OUVERTURE_TMP_EMIS);
@@ -151,7 +146,7 @@ bool ouvrirFichiers() {
     }
 
     name_erre = nomAlloue(dir_name_emis, fic_name_recu, "_o", MSG_MEMOIRE_EMIS);
-    fp_erre = std::fopen(name_erre, "w");
+    fp_erre = ouvrirTravail(name_erre, tenu_erre);
     if (fp_erre == nullptr) {
         std::perror(OUVERTURE_ERRE);
         fermer(fp_log);
@@ -197,6 +192,11 @@ bool traiterEnregistrements() {
     source.remplir = lireEntree;
     vse.vu = affichageVSE(visu);
     for (verdict v;;) {
+        if (interrompu()) {
+            fermerFichiers();
+            nePasEmettre();
+            return false;
+        }
         const eSuite suite = suivant(vse, source, v);
         if (suite == SUITE_FIN) break;
         if (suite == SUITE_ARRET) return arreter(v.fatal);
@@ -219,14 +219,21 @@ int publier() {
     ecrireVSEFICH(vse, valide);
 
     // A result that could not be written whole is not published.
-    const bool entier = fermer(valide ? fp_emis : fp_erre);
-    const int cause = errno;
+    fichierTenu& resultat = valide ? tenu_tmp_emis : tenu_erre;
+    const char* const nom = valide ? name_tmp_emis : name_erre;
+    const bool entier = fermer(valide ? fp_emis : fp_erre) && synchroniser(resultat);
+    const int cause = entier ? ENOENT : errno;
     fermerFichiers();
     errno = cause;
-    const bool emis = (entier ? emettre(valide ? name_tmp_emis : name_erre) : renoncer()) == 0;
+    const bool emis = (entier && estTenu(nom, resultat) ? emettre(nom) : renoncer()) == 0;
     if (emis) {
-        retirerTravail(name_tmp_recu);
-        retirerTravail(valide ? name_erre : name_tmp_emis);
+        relacher(resultat);
+        synchroniserDossier(name_emis);
+        retirer(name_tmp_recu, tenu_recu);
+        if (valide)
+            retirer(name_erre, tenu_erre);
+        else
+            retirer(name_tmp_emis, tenu_tmp_emis);
     }
     fermer(fp_log);
     if (!entier) return STATUT_FATAL;
@@ -234,9 +241,8 @@ int publier() {
     return emis ? STATUT_ERREURS : STATUT_FATAL;
 }
 
-}  // namespace
-
-int quilvane(int argc, char* const argv[]) {
+/** The run between the start and the end of its process. */
+int courir(int argc, char* const argv[]) {
     if (!verificationParametre(argc, argv)) return STATUT_USAGE;
     name_recu = argv[optind];
     name_emis = argv[optind + 1];
@@ -246,7 +252,18 @@ int quilvane(int argc, char* const argv[]) {
     if (!ouvrirFichiers()) return STATUT_FATAL;
     preparerSorties();
     if (!traiterEnregistrements()) return STATUT_FATAL;
+    retenirSignaux();
     return publier();
+}
+
+}  // namespace
+
+int quilvane(int argc, char* const argv[]) {
+    preparerProcessus();
+    const int statut = courir(argc, argv);
+    relacherFichiers();
+    terminerProcessus();
+    return statut;
 }
 
 }  // namespace quilvane

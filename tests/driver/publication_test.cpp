@@ -1,5 +1,6 @@
 #include "driver/publication.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <unistd.h>
 
@@ -11,6 +12,7 @@
 
 #include "calendar/horloge.h"
 #include "driver/etat.h"
+#include "driver/travail.h"
 #include "support/banc.h"
 
 using namespace quilvane;
@@ -42,11 +44,20 @@ protected:
         name_tmp_emis = tmpEmis.c_str();
         name_erre = erre.c_str();
         fp_log = std::fopen(name_log, "w");
+        prendre(name_tmp_recu, tenu_recu);
+        prendre(name_emis, tenu_emis);
+        prendre(name_tmp_emis, tenu_tmp_emis);
+        prendre(name_erre, tenu_erre);
     }
     ~Publication() override {
         fermer(fp_log);
         fermerFichiers();
+        relacherFichiers();
         initialiserEtat();
+    }
+
+    static void prendre(const char* nom, fichierTenu& tenu) {
+        EXPECT_TRUE(tenir(nom, open(nom, O_RDONLY | O_CLOEXEC), tenu));
     }
 
     /** What the folder holds beside the log. */
@@ -219,6 +230,7 @@ TEST_F(Publication, UnNomDeLEntreeRendueNEstPasRetire) {
     for (const std::string& nom : {recu, d.nom("sous/../recu"), d.nom("lien")}) {
         for (const bool publier : {false, true}) {
             d.ecrire("recu_r", "entree");
+            prendre(name_tmp_recu, tenu_recu);
             std::filesystem::remove(recu);
             name_emis = nom.c_str();
             erreurStandard([&] {

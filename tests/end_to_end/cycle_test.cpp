@@ -18,6 +18,7 @@
 #include "attgetopt/attgetopt.h"
 #include "driver/etat.h"
 #include "driver/quilvane.h"
+#include "fautes/fautes.h"
 #include "rules/pack.h"
 #include "support/attendu.h"
 
@@ -26,7 +27,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-using contenu = std::map<std::string, std::string>;
 using mots = std::vector<std::string>;
 
 std::string rejetee() {
@@ -372,19 +372,18 @@ TEST(Cycle, SortieSurUnAutreDisque) {
 
 namespace {
 
-/** Runs over a pipe, so that folder `d` can be changed while the run has its
- *  files open: by `pendant`, before the bytes come. */
+/** Runs over `octets` and lets `pendant` change folder `d` while the run has
+ *  its files open and has read nothing. */
 resultat lancerEnDeuxTemps(const dossier& d, const std::string& octets,
                            const std::function<void(const dossier&)>& pendant) {
-    if (mkfifo(d.nom("in").c_str(), 0600) != 0) throw std::runtime_error("mkfifo");
-    const int tube = open(d.nom("in").c_str(), O_RDWR | O_CLOEXEC);
-    std::future<resultat> course = std::async(std::launch::async, [&] { return lancer(d, TROIS); });
-    // Until its last file is open, or it has ended without.
-    while (!d.existe("in_o") && course.wait_for(std::chrono::milliseconds(1)) != std::future_status::ready) {
+    const temoin t;
+    d.ecrire("in", octets);
+    std::future<resultat> course =
+        std::async(std::launch::async, [&] { return lancer(d, TROIS, t.sous("fread:1:attendre")); });
+    while (!t.atteint() && course.wait_for(std::chrono::milliseconds(1)) != std::future_status::ready) {
     }
     pendant(d);
-    EXPECT_EQ(write(tube, octets.data(), octets.size()), static_cast<ssize_t>(octets.size()));
-    close(tube);
+    t.d.ecrire("feu", "");
     return course.get();
 }
 
@@ -406,9 +405,9 @@ TEST(Cycle, PublicationImpossible) {
         const resultat r = lancerEnDeuxTemps(d, c.octets, [](const dossier& e) { occuper(e, "out"); });
         EXPECT_EQ(r.statut, c.statut);
         EXPECT_EQ(r.erreur, "rename: Is a directory\n");
-        EXPECT_TRUE(fs::is_fifo(d.nom("in")));  // given back
-        fs::remove(d.nom("in"));
-        EXPECT_EQ(d.contenu(), (contenu{{"out/", ""}, {"out/dedans", "x"}, {"log", ligneLog(LOG_IG010)}}));
+        EXPECT_EQ(
+            d.contenu(),
+            (contenu{{"in", c.octets}, {"out/", ""}, {"out/dedans", "x"}, {"log", ligneLog(LOG_IG010)}}));
     }
 }
 
@@ -456,9 +455,7 @@ TEST(Cycle, UneEntreeRevenueSousSonNomEstRemplacee) {
     const resultat r = lancerEnDeuxTemps(d, FATAL, [](const dossier& e) { e.ecrire("in", "autre"); });
     EXPECT_EQ(r.statut, 1);
     EXPECT_EQ(r.erreur, "");
-    EXPECT_TRUE(fs::is_fifo(d.nom("in")));
-    fs::remove(d.nom("in"));
-    EXPECT_EQ(d.contenu(), (contenu{{"log", ligneLog(LOG_IG011)}}));
+    EXPECT_EQ(d.contenu(), (contenu{{"in", FATAL}, {"log", ligneLog(LOG_IG011)}}));
 }
 
 TEST(Cycle, DossierDeTravail) {

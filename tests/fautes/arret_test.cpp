@@ -143,7 +143,7 @@ TEST(Cote, HuitPassagesALaFois) {
     for (const int n : {1, 40, 400})
         for (const passage& p : passages(n))
             tous.push_back(p);
-    for (const char* depart : {"fopen:1:attendre", "fopen:6:attendre", "rename:2:attendre"}) {
+    for (const char* depart : {"open:1:attendre", "open:6:attendre", "rename:1:attendre"}) {
         for (const std::size_t nombre : {std::size_t{2}, std::size_t{8}}) {
             SCOPED_TRACE(std::to_string(nombre) + " from " + depart);
             const dossier d;

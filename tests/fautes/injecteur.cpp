@@ -3,11 +3,14 @@
  * chosen calls of the C library fail, or stops the program before them.
  *
  *   QUILVANE_FAUTE=<function>:<n>:<action>[,...]
- *       function  fopen fclose fwrite fread rename remove, malloc (with calloc
- *                 and realloc), or tout: any of these but the allocations
+ *       function  open fdopen fclose fwrite fread rename renameat2 link remove
+ *                 unlink flock fsync ftruncate, stat (with lstat and fstat),
+ *                 fcntl (the copying of descriptors), malloc (with calloc and
+ *                 realloc), or tout: any of these but the allocations
  *       n         the n-th call of that function, counted in main only
  *       action    refuser    that call fails
  *                 toujours   it and all later ones fail
+ *                 manquer    the same, as where the system does not have that call
  *                 tuer       the process is killed before it
  *                 attendre   it waits before it until the file QUILVANE_FEU exists
  *   QUILVANE_TEMOIN      file that gets a line for every call that was met
@@ -20,11 +23,14 @@
 #include <dlfcn.h>
 #include <fcntl.h>
 #include <signal.h>
+#include <sys/file.h>
 #include <sys/resource.h>
+#include <sys/stat.h>
 #include <sys/syscall.h>
 #include <unistd.h>
 
 #include <cerrno>
+#include <cstdarg>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -42,11 +48,31 @@ constexpr int MAX_ORDRES = 4;
 constexpr int MAX_DESCRIPTEURS = 256;
 constexpr int ATTENTE = 60000;  // milliseconds
 
-enum eFonction { FOPEN, FCLOSE, FWRITE, FREAD, RENAME, REMOVE, MALLOC, TOUT, NB_FONCTIONS };
-constexpr const char* FONCTIONS[NB_FONCTIONS] = {"fopen",  "fclose", "fwrite", "fread",
-                                                 "rename", "remove", "malloc", "tout"};
-enum eAction { REFUSER, TOUJOURS, TUER, ATTENDRE, NB_ACTIONS };
-constexpr const char* ACTIONS[NB_ACTIONS] = {"refuser", "toujours", "tuer", "attendre"};
+enum eFonction {
+    OPEN,
+    FDOPEN,
+    FCLOSE,
+    FWRITE,
+    FREAD,
+    RENAME,
+    RENAMEAT2,
+    LINK,
+    REMOVE,
+    UNLINK,
+    FLOCK,
+    FSYNC,
+    FTRUNCATE,
+    STAT,
+    FCNTL,
+    MALLOC,
+    TOUT,
+    NB_FONCTIONS
+};
+constexpr const char* FONCTIONS[NB_FONCTIONS] = {"open",      "fdopen", "fclose", "fwrite", "fread", "rename",
+                                                 "renameat2", "link",   "remove", "unlink", "flock", "fsync",
+                                                 "ftruncate", "stat",   "fcntl",  "malloc", "tout"};
+enum eAction { REFUSER, TOUJOURS, MANQUER, TUER, ATTENDRE, NB_ACTIONS };
+constexpr const char* ACTIONS[NB_ACTIONS] = {"refuser", "toujours", "manquer", "tuer", "attendre"};
 
 struct ordre {
     int fonction;
@@ -56,7 +82,8 @@ struct ordre {
 ordre ordres[MAX_ORDRES];
 int nbOrdres = 0;
 int appels[NB_FONCTIONS];
-bool actif = false;  // within main
+bool manquant = false;  // the call that was met last is to fail as a missing one
+bool actif = false;     // within main
 bool ouvertsAvant[MAX_DESCRIPTEURS];
 
 template <typename Fonction>
@@ -81,7 +108,7 @@ void lireOrdres() {
         int n = 0;
         int lus = 0;
         if (nbOrdres == MAX_ORDRES ||
-            std::sscanf(p, "%15[a-z]:%d:%15[a-z]%n", fonction, &n, action, &lus) != 3)
+            std::sscanf(p, "%15[a-z0-9]:%d:%15[a-z]%n", fonction, &n, action, &lus) != 3)
             std::abort();
         ordres[nbOrdres++] = {rang(fonction, FONCTIONS, NB_FONCTIONS), n, rang(action, ACTIONS, NB_ACTIONS)};
         p += lus;
@@ -104,9 +131,9 @@ const char* sansDossier(const char* chemin) {
 }
 
 /** Name of the file behind a descriptor. */
-struct nomDuFlux {
+struct nomDuDescripteur {
     char chemin[4096] = {};
-    explicit nomDuFlux(int fd) {
+    explicit nomDuDescripteur(int fd) {
         char lien[64];
         std::snprintf(lien, sizeof lien, "/proc/self/fd/%d", fd);
         if (readlink(lien, chemin, sizeof chemin - 1) < 0) chemin[0] = '\0';
@@ -133,13 +160,14 @@ bool doitEchouer(eFonction fonction, const char* nom) {
         const ordre& o = ordres[i];
         if (o.fonction != fonction && (o.fonction != TOUT || fonction == MALLOC)) continue;
         const int compte = appels[o.fonction];
-        if (compte < o.n || (compte > o.n && o.action != TOUJOURS)) continue;
+        const bool dure = o.action == TOUJOURS || o.action == MANQUER;
+        if (compte < o.n || (compte > o.n && !dure)) continue;
         actif = false;
         noter("QUILVANE_TEMOIN", nom);
         switch (o.action) {
             case TUER: syscall(SYS_kill, getpid(), SIGKILL); break;
             case ATTENDRE: attendreLeFeu(); break;
-            default: echoue = true;
+            default: echoue = true; manquant = o.action == MANQUER;
         }
         actif = true;
     }
@@ -147,12 +175,22 @@ bool doitEchouer(eFonction fonction, const char* nom) {
 }
 
 bool doitEchouer(eFonction fonction, std::FILE* fp) {
-    return actif && doitEchouer(fonction, nomDuFlux(fileno(fp)).nom());
+    return actif && doitEchouer(fonction, nomDuDescripteur(fileno(fp)).nom());
+}
+
+bool doitEchouer(eFonction fonction, int fd) {
+    return actif && doitEchouer(fonction, nomDuDescripteur(fd).nom());
+}
+
+int echec(int cause) {
+    errno = cause;
+    return -1;
 }
 
 void noterOuverts() {
     for (int fd = 3; fd < MAX_DESCRIPTEURS; ++fd)
-        if (!ouvertsAvant[fd] && fcntl(fd, F_GETFD) >= 0) noter("QUILVANE_OUVERTS", nomDuFlux(fd).nom());
+        if (!ouvertsAvant[fd] && fcntl(fd, F_GETFD) >= 0)
+            noter("QUILVANE_OUVERTS", nomDuDescripteur(fd).nom());
 }
 
 using fonctionMain = int(int, char**, char**);
@@ -189,13 +227,77 @@ int __libc_start_main(fonctionMain* principal, int argc, char** argv, void (*ini
     return suivante<demarrage>("__libc_start_main")(mainSurveille, argc, argv, init, fini, rtldFini, pile);
 }
 
-std::FILE* fopen(const char* nom, const char* mode) {
-    static auto* const vraie = suivante<decltype(fopen)>("fopen");
-    if (doitEchouer(FOPEN, sansDossier(nom))) {
-        errno = EMFILE;
-        return nullptr;
-    }
-    return vraie(nom, mode);
+int open64(const char* nom, int drapeaux, ...) {
+    static auto* const vraie = suivante<int(const char*, int, ...)>("open64");
+    va_list reste;
+    va_start(reste, drapeaux);
+    const mode_t droits = (drapeaux & O_CREAT) != 0 ? va_arg(reste, mode_t) : 0;
+    va_end(reste);
+    return doitEchouer(OPEN, sansDossier(nom)) ? echec(EMFILE) : vraie(nom, drapeaux, droits);
+}
+
+std::FILE* fdopen(int fd, const char* mode) noexcept {
+    static auto* const vraie = suivante<std::FILE*(int, const char*)>("fdopen");
+    if (!doitEchouer(FDOPEN, fd)) return vraie(fd, mode);
+    errno = EMFILE;
+    return nullptr;
+}
+
+int fcntl64(int fd, int commande, ...) {
+    static auto* const vraie = suivante<int(int, int, ...)>("fcntl64");
+    va_list reste;
+    va_start(reste, commande);
+    const long valeur = va_arg(reste, long);
+    va_end(reste);
+    if (commande == F_DUPFD_CLOEXEC && doitEchouer(FCNTL, fd)) return echec(EMFILE);
+    return vraie(fd, commande, valeur);
+}
+
+int flock(int fd, int operation) noexcept {
+    static auto* const vraie = suivante<int(int, int)>("flock");
+    return doitEchouer(FLOCK, fd) ? echec(manquant ? EWOULDBLOCK : ENOLCK) : vraie(fd, operation);
+}
+
+int fsync(int fd) {
+    static auto* const vraie = suivante<int(int)>("fsync");
+    return doitEchouer(FSYNC, fd) ? echec(EIO) : vraie(fd);
+}
+
+int ftruncate64(int fd, off64_t taille) noexcept {
+    static auto* const vraie = suivante<int(int, off64_t)>("ftruncate64");
+    return doitEchouer(FTRUNCATE, fd) ? echec(EIO) : vraie(fd, taille);
+}
+
+int stat64(const char* nom, struct stat64* s) noexcept {
+    static auto* const vraie = suivante<int(const char*, struct stat64*)>("stat64");
+    return doitEchouer(STAT, sansDossier(nom)) ? echec(EIO) : vraie(nom, s);
+}
+
+int lstat64(const char* nom, struct stat64* s) noexcept {
+    static auto* const vraie = suivante<int(const char*, struct stat64*)>("lstat64");
+    return doitEchouer(STAT, sansDossier(nom)) ? echec(EIO) : vraie(nom, s);
+}
+
+int fstat64(int fd, struct stat64* s) noexcept {
+    static auto* const vraie = suivante<int(int, struct stat64*)>("fstat64");
+    return doitEchouer(STAT, fd) ? echec(EIO) : vraie(fd, s);
+}
+
+int renameat2(int ici, const char* ancien, int la, const char* nouveau, unsigned drapeaux) noexcept {
+    static auto* const vraie = suivante<int(int, const char*, int, const char*, unsigned)>("renameat2");
+    if (!doitEchouer(RENAMEAT2, sansDossier(ancien))) return vraie(ici, ancien, la, nouveau, drapeaux);
+    return echec(manquant ? EINVAL : EBUSY);
+}
+
+int link(const char* ancien, const char* nouveau) noexcept {
+    static auto* const vraie = suivante<int(const char*, const char*)>("link");
+    if (!doitEchouer(LINK, sansDossier(ancien))) return vraie(ancien, nouveau);
+    return echec(manquant ? EPERM : EBUSY);
+}
+
+int unlink(const char* nom) noexcept {
+    static auto* const vraie = suivante<int(const char*)>("unlink");
+    return doitEchouer(UNLINK, sansDossier(nom)) ? echec(EBUSY) : vraie(nom);
 }
 
 int fclose(std::FILE* fp) {
@@ -226,16 +328,12 @@ size_t fread(void* octets, size_t taille, size_t nombre, std::FILE* fp) {
 
 int rename(const char* ancien, const char* nouveau) noexcept {
     static auto* const vraie = suivante<int(const char*, const char*)>("rename");
-    if (!doitEchouer(RENAME, sansDossier(ancien))) return vraie(ancien, nouveau);
-    errno = EBUSY;
-    return -1;
+    return doitEchouer(RENAME, sansDossier(ancien)) ? echec(EBUSY) : vraie(ancien, nouveau);
 }
 
 int remove(const char* nom) noexcept {
     static auto* const vraie = suivante<int(const char*)>("remove");
-    if (!doitEchouer(REMOVE, sansDossier(nom))) return vraie(nom);
-    errno = EBUSY;
-    return -1;
+    return doitEchouer(REMOVE, sansDossier(nom)) ? echec(EBUSY) : vraie(nom);
 }
 
 void* malloc(size_t taille) noexcept {

@@ -62,7 +62,8 @@ TEST(NomsDeTravail, ReussiteApresUnAncienFichier) {
             for (const char* nom : {"in_r", "in_e", "in_o"})
                 d.ecrire(nom, ANCIEN);
             d.ecrire("in", p.octets);
-            const attente a = suffixe == p.travail ? rendu(p) : attente{p.statut, laisse(p, "in", out), ""};
+            attente a = suffixe == p.travail ? rendu(p) : attente{p.statut, laisse(p, "in", out), ""};
+            a.fichiers["in_r.~1~"] = ANCIEN;
             const resultat r = lancer(d, {"in", out, "log"});
             EXPECT_EQ(r.statut, a.statut);
             EXPECT_EQ(r.erreur, a.erreur);
@@ -77,7 +78,7 @@ TEST(NomsDeTravail, PublicationImpossible) {
         for (const char* out : {"in", "in_r", "in_e", "in_o"}) {
             attente a = rendu(p);
             a.erreur = OCCUPE;
-            verifier(p, out, a, "rename:2:refuser");
+            verifier(p, out, a, "rename:1:refuser");
         }
     }
 }

@@ -164,6 +164,8 @@ resultat lancerProgramme(const std::string& programme, const dossier& d,
     return r;
 }
 
+const char* programme() { return QUILVANE_BINAIRE; }
+
 resultat lancer(const dossier& d, const std::vector<std::string>& arguments, const options& o) {
     const char* const valgrind = std::getenv("QUILVANE_VALGRIND");
     // valgrind finds the program by its name and cannot give it another, and

@@ -66,6 +66,9 @@ struct options {
  */
 resultat lancer(const dossier& d, const std::vector<std::string>& arguments, const options& o = {});
 
+/** Path of the built program. */
+const char* programme();
+
 /** The same for another program of this build or system, by its path. */
 resultat lancerProgramme(const std::string& programme, const dossier& d,
                          const std::vector<std::string>& arguments, const options& o = {});
