@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Measures the program on the largest legal file: whole process against cp, cat
-# and an awk script (hyperfine), instructions per record and allocations
+# and an awk script (hyperfine) in memory, against cp and sync on a disk, instructions per record and allocations
 # (valgrind), peak memory, and the benchmarks of bench/mesures.cpp. Figures are
 # for an otherwise idle machine.
 #
@@ -14,8 +14,11 @@ construire bench
 
 programme=$racine/build/bench/quilvane
 generateur=$racine/build/bench/bench/generateur
-dossier=$(mktemp -d)
-trap 'rm -rf "$dossier"' EXIT
+# In memory where the system has a place for it; QUILVANE_DISQUE names a folder
+# on a disk, by default one beside the build.
+dossier=$(mktemp -d -p "$([ -d /dev/shm ] && echo /dev/shm || echo "${TMPDIR:-/tmp}")")
+disque=$(mktemp -d -p "${QUILVANE_DISQUE:-$racine/build}")
+trap 'rm -rf "$dossier" "$disque"' EXIT
 cp bench/a_la_main.awk "$dossier"
 cd "$dossier"
 "$generateur" >acceptes
@@ -30,7 +33,7 @@ mesurer() {
     jq -r '.results[0].median * 1000' mesure.json
 }
 
-echo "== whole process, median of 200 runs, 10000 records, $(stat -c %s acceptes) bytes"
+echo "== whole process in $(df --output=fstype . | tail -1), median of 200 runs, 10000 records, $(stat -c %s acceptes) bytes"
 reference=$(mesurer acceptes "cp recu emis")
 printf '%-42s %9s %9s\n' command ms "x cp"
 ligne() { printf '%-42s %9.2f %9.2f\n' "$1" "$2" "$(echo "$2 $reference" | awk '{ print $1 / $2 }')"; }
@@ -40,6 +43,19 @@ ligne "awk, framing and header lists only" "$(mesurer acceptes "sh -c 'gawk -f a
 ligne "quilvane, all accepted" "$(mesurer acceptes "$programme recu emis log")"
 ligne "quilvane, all in error" "$(mesurer rejetes "$programme recu emis log")"
 ligne "quilvane -v (start of the process)" "$(mesurer acceptes "$programme -v")"
+
+# What the program does on a disk: the result and its folder are synchronised.
+cp acceptes rejetes "$disque"
+cd "$disque"
+printf '#!/bin/sh\ncp recu emis && sync emis .\n' >copier
+chmod +x copier
+echo "== the same in $(df --output=fstype . | tail -1), against cp and sync of the copy and its folder"
+reference=$(mesurer acceptes ./copier)
+printf '%-42s %9s %9s\n' command ms "x cp, sync"
+ligne "cp, sync" "$reference"
+ligne "quilvane, all accepted" "$(mesurer acceptes "$programme recu emis log")"
+ligne "quilvane, all in error" "$(mesurer rejetes "$programme recu emis log")"
+cd "$dossier"
 [ "${1:-}" != rapport ] || exit 0
 
 echo "== peak memory"
