@@ -4,6 +4,7 @@
 
 #include "checks/lecture.h"
 #include "controle/traitement.h"
+#include "messages/aiguillage.h"
 
 namespace quilvane {
 
@@ -27,7 +28,11 @@ void commencer(lot& l) {
 }
 
 eSuite suivant(lot& l, lecteur& source, verdict& v) {
-    v = {.fatal = eFatal::AUCUN, .rang = l.nombreDeVSE, .erreurs = 0, .itAiguil = 0, .sansCompagnon = 0};
+    v = {.fatal = eFatal::AUCUN,
+         .rang = l.nombreDeVSE,
+         .erreurs = 0,
+         .itAiguil = ERR_AIGUILLAGE,
+         .sansCompagnon = 0};
     if (l.nombreDeVSE > MAX_NOMBRE_VSE && maxAutoVSE()) return arreter(v, eFatal::I073);
 
     const cverseFgetsRet fin = cverseFgets(source, l.ligne);

@@ -51,7 +51,8 @@ struct lot {
     /** Emitter and receiver of the file (FICH header E3 and E4). */
     char sauvEmetteur[9] = "XXXXXXXX";
     char sauvRecepteur[9] = "XXXXXXXX";
-    /** Errors of the FICH record, and their count. The count check adds to them. */
+    /** Errors of the FICH record, and their count. The count check adds to them.
+     *  `texteDe` finds their texts only while no other record has been judged. */
     int codeFichErreur[MAX_ERREURS + 1] = {};
     constat constatsFich[MAX_ERREURS] = {};
     int errFich = 0;
@@ -90,7 +91,7 @@ struct verdict {
     eFatal fatal;
     int rang;           // place in the file, the FICH record being 1
     int erreurs;        // error count; 0: accepted (or, for rang 1, kept)
-    int itAiguil;       // routing row
+    int itAiguil;       // routing row, `ERR_AIGUILLAGE` for no known type and for rang 1
     int sansCompagnon;  // error number that the record before earned because
                         //   this one is not its companion, 0 for none; the
                         //   error record is `lot::tamponSansCompagnon`

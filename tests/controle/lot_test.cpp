@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "controle/traitement.h"
+#include "messages/aiguillage.h"
 #include "support/memoire.h"
 #include "support/modeles.h"
 
@@ -164,6 +165,21 @@ TEST_F(Lot, LaLigneJugeeResteALAppelant) {
     EXPECT_EQ(v.erreurs, 2);
     EXPECT_EQ(codeErreur[0], 106);
     EXPECT_EQ(codeErreur[1], 107);
+}
+
+// A line that has no message type is given none, whatever came before it.
+TEST_F(Lot, LigneDAiguillage) {
+    commencer(l);
+    memoire octets(fichier({fich(4), acti(), avec(acti(), {{22, "XXXX"}})}) + "x\r" + exp1() + "\n\n");
+    octets.ouvrir(source);
+    const int lignes[] = {ERR_AIGUILLAGE, aiguiller("ACTI"), ERR_AIGUILLAGE,
+                          ERR_AIGUILLAGE, aiguiller("EXP1"), ERR_AIGUILLAGE};
+    for (const int ligne : lignes) {
+        v.itAiguil = -1;
+        suivant(l, source, v);
+        EXPECT_EQ(v.itAiguil, ligne) << v.rang;
+    }
+    EXPECT_EQ(v.fatal, eFatal::IG015);
 }
 
 TEST_F(Lot, LesLignesCRSontComptees) {
