@@ -25,7 +25,7 @@ std::size_t longueurUtile(const char* texte) { return std::strcspn(texte, " "); 
 
 int presence_C2(const char*, char*, const void*, int) {
     getVseCorps();
-    return !blancs12(cp.NUME_NATI_BOV);
+    return cp.NUME_NATI_BOV[0] != '\0' && !blancs12(cp.NUME_NATI_BOV);
 }
 
 int presence_C5(const char*, char*, const void*, int) { return !videOuBlanc(cp.NUME_EXPLOIT_PROVENANCE); }

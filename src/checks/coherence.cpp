@@ -3,7 +3,7 @@
  * with the departmental body, dates with the record's own date; and the date
  * reader on which every date check rests.
  */
-#include <cstdio>
+#include <charconv>
 
 #include "calendar/datecalc.h"
 #include "checks/lecture.h"
@@ -57,12 +57,11 @@ bool groupeContient(const tValAutorise* groupe, int n, const char* a, const char
 int pasApresDecale(const char* reference, const char* date, int ansDePlus) {
     if (ansDePlus == 0) return fCoherenDCSupInf(reference, date, INF);
     const dateInversee origine(reference);
-    char limite[32] = "";
-    // The year is plain digits and may grow to five. A date cut inside its
-    // year has neither month nor day; one cut before it stays empty.
-    if (origine.texte[0] != '\0')
-        std::snprintf(limite, sizeof limite, "%lld%s", nombre(reference, 5, 4) + ansDePlus,
-                      aPartirDe(origine.texte, 5));
+    char limite[16];
+    // The year is plain digits and may grow to five. A date cut inside or
+    // before its year has neither month nor day; a year that is not there is 0.
+    char* const suite = std::to_chars(limite, limite + 8, nombre(reference, 5, 4) + ansDePlus).ptr;
+    std::strcpy(suite, aPartirDe(origine.texte, 5));
     dateInversee champ(date);
     champ.blancsEnZeros();
     return std::strcmp(champ.texte, limite) <= 0;

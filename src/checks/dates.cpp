@@ -122,8 +122,9 @@ int fDATEHEUREC(const char* dependance, char* champ, const void* sverif, int len
     moment.tm_min = lire(champ, 3, 2);
     moment.tm_sec = lire(champ, 5, 2);
     moment.tm_isdst = -1;
+    // -1 is no failure here: it is the last second before 1970, which stands
+    // in the calendar of 1970 east of Greenwich.
     const std::time_t instant = std::mktime(&moment);
-    if (instant == static_cast<std::time_t>(-1)) return 0;
     if (moment.tm_mday != jour || moment.tm_mon != mois - 1 || moment.tm_year != annee - 1900) return 0;
     return std::difftime(present, instant) > 0;
 }

@@ -111,6 +111,12 @@ inline int dernierNonBlanc(const char* texte) {
  */
 long long nombre(const char* texte, int col = 1, int largeur = 256);
 
+/** The number in the digits from column `col` on, up to the first non-digit; 0
+ *  when no digit stands there. White space and signs are no digits. */
+inline long long nombreDepuis(const char* texte, int col) {
+    return estChiffre(carac(texte, col)) ? nombre(texte, col) : 0;
+}
+
 /**
  * Rewrites a DDMMYYYY date as YYYYMMDD, for comparison as text. A date that
  * its record cut short ends at its first missing character.

@@ -114,8 +114,8 @@ fVerif fConform8C;
 fVerif fConform;
 /** Country (dependency) "FR": as `fConform8`; any other country passes. Error 68. */
 fVerif fConform8FR;
-/** Country "FR" or two blanks passes; otherwise no blank inside the number.
- *  Error 2. */
+/** Country "FR" or two blanks passes; otherwise no blank before the trailing
+ *  ones, and not blank altogether (see `fVerifAucunBlanc_SD`). Error 2. */
 fVerif fConform8FRnon;
 /** Twelve blanks or asterisks pass; otherwise as `fConform8FR`. Error 68. */
 fVerif fCONFORM8FRNULL;
@@ -334,7 +334,7 @@ int fVerifDiffZero(const char* champ, int posDebut, int posFin);
 // ------------------------------------------- slaughter notices (abattage)
 // These read `cp`, the extract of the current notice.
 
-/** Refreshes `cp`, then: the animal number is not twelve blanks. Error 1. */
+/** Refreshes `cp`, then: the animal number is there and not twelve blanks. Error 1. */
 fVerif presence_C2;
 /** The provenance holding number is filled. Error 31. */
 fVerif presence_C5;

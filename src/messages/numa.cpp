@@ -18,7 +18,7 @@ int numa_fC6_2(const char*, char* champ, const void*, int) {
 
 int numa_fC6_3(const char* dependance, char* champ, const void*, int) {
     // Behind its department a number has eight digits.
-    return nombre(dependance, 3) + nombre(champ) <= 100'000'000;
+    return nombreDepuis(dependance, 3) + nombre(champ) <= 100'000'000;
 }
 
 // clang-format off

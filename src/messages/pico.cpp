@@ -19,8 +19,8 @@ int pico_fC6_2(const char*, char* champ, const void*, int) {
 int pico_fC6_3(const char* dependance, char* champ, const void*, int) {
     const bool lettree = vaut(corps(C9), "PR") || vaut(corps(C9), "PC");
     // A letter in column 7 leaves four digits behind it, else there are five.
-    const long long premier = nombre(dependance, lettree ? 8 : 7);
-    return premier + nombre(champ) <= (lettree ? 10'000 : 100'000);
+    const long long premier = nombreDepuis(dependance, lettree ? 8 : 7);
+    return premier + nombreDepuis(champ, 1) <= (lettree ? 10'000 : 100'000);
 }
 
 // clang-format off

@@ -89,12 +89,12 @@ TEST(Abattage, PresenceC2RafraichitLExtrait) {
 }
 
 TEST(Abattage, PresenceC2SurUnRecordCourt) {
-    // An empty or cut number is not twelve blanks.
+    // A cut number is not twelve blanks; one that is not there is absent.
     for (const std::size_t longueur : {std::size_t{0}, std::size_t{64}, std::size_t{65}, std::size_t{75}}) {
         std::string record = avis().substr(0, longueur);
         if (longueur > 64) record.replace(64, longueur - 64, blancs(longueur - 64));
         remplirMagasin("            ", {{xdebug, record}});
-        EXPECT_TRUE(accepte(presence_C2, "", "            ")) << longueur;
+        EXPECT_EQ(accepte(presence_C2, "", "            "), longueur > 64) << longueur;
         EXPECT_EQ(std::string(cp.NUME_NATI_BOV), longueur > 64 ? blancs(longueur - 64) : "") << longueur;
         EXPECT_STREQ(cp.INDIC_CREA_INVA_ABATT, "") << longueur;
     }

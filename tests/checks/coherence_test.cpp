@@ -925,12 +925,22 @@ TEST(CoherenceDate, UnAnDePlusDatesCoupees) {
         {"150320", "010121", true},
         {"150320", "01012099", true},
         {"150320", "01012100", false},
+        // A year that is not there is 0: the limit is "1".
         {"1503", "15032024", false},
+        {"1503", "15030999", true},
+        {"1503", "15031", true},
+        {"1503", "15031000", false},
         {"1503", "1503", true},
         {"1503", "", true},
         {"", "15032024", false},
+        {"", "15030999", true},
+        {"", "15031", true},
+        {"", "150310", false},
         {"", "", true},
-        {"", "0000000", false},
+        {"", "0000000", true},
+        // Four columns are the year, whatever follows them.
+        {"150320249", "15032025", true},
+        {"150320249", "16032025", false},
     };
     const slotTenu c5(C5, "J");
     for (const ligne& l : table) {

@@ -514,6 +514,19 @@ TEST(Dates, InstantDe1970A2038) {
         });
 }
 
+TEST(Dates, InstantAvant1970EnTempsUniversel) {
+    // East of Greenwich 1970 begins before the count of seconds does.
+    const horlogeFigee figee(NOVEMBRE_2026, "EST-1");
+    SUJET(fDATEHEUREC)
+        .prouver({
+            {"01011970", "000000", true},
+            {"01011970", "005958", true},
+            {"01011970", "005959", true},  // the second before the count begins
+            {"01011970", "010000", true},
+            {"31121969", "235959", false},
+        });
+}
+
 TEST(Dates, InstantLuEnHeureLocale) {
     const char* const PARIS = "CET-1CEST,M3.5.0,M10.5.0/3";
     {

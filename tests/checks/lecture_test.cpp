@@ -284,6 +284,22 @@ TEST(Lecture, NombreLuJusquAuPremierNonChiffre) {
     }
 }
 
+TEST(Lecture, NombreSansBlancNiSigne) {
+    struct {
+        const char* texte;
+        int col;
+        long long attendu;
+    } const cas[] = {
+        {"7800000042", 3, 42}, {"78 0000042", 3, 0}, {"78+0000042", 3, 0}, {"78-0000042", 3, 0},
+        {"78\t0000042", 3, 0}, {"7812X4", 3, 12},    {"78X", 3, 0},        {"78", 3, 0},
+        {"7", 3, 0},           {"", 3, 0},           {"12 ", 1, 12},       {" 12", 1, 0},
+    };
+    for (const auto& c : cas) {
+        const texte t(c.texte);
+        EXPECT_EQ(nombreDepuis(t.get(), c.col), c.attendu) << '"' << c.texte << "\" col " << c.col;
+    }
+}
+
 TEST(Lecture, NombreDansSesColonnes) {
     struct {
         const char* texte;

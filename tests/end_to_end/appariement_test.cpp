@@ -111,6 +111,38 @@ TEST(Appariement, CompagnonQuiNeVientPas) {
     }
 }
 
+TEST(Appariement, CompagnonCoupeDansC2) {
+    // A slot cut short is written short: `n` columns are missing where it stands.
+    const auto expCoupe = [](std::size_t n, const std::string& c2, const std::vector<int>& codes) {
+        return vseErreur(exp2(), codes, "FR", c2, "FR" + c2)
+            .erase(99 + c2.size(), n)
+            .erase(71 + c2.size(), n);
+    };
+    const struct {
+        const char* nom;
+        std::string premier;
+        std::string compagnon;
+        std::string erreur;  // of the companion
+        bool complet;        // the pair is
+    } cas[] = {
+        // The companion's C2 is compared whole: cut short it is another one.
+        {"EXP2 cut in C2", exp1(), exp2().substr(0, 70),
+         expCoupe(6, "781234", {108, 68, 30, 30, 22, 90, 91, 94}), false},
+        {"EXP2 cut before C2", exp1(), exp2().substr(0, 64),
+         expCoupe(12, "", {108, 68, 50, 30, 30, 22, 90, 91, 94}), false},
+        {"RATA cut in C2", eget(), rata().substr(0, 75),
+         vseErreurSansCle(rata(), {108, 140, 50, 131, 31, 68, 148, 90, 91, 94}).erase(82, 1), false},
+        // Cut behind C2 it is the companion, although in error.
+        {"EXP2 cut behind C2", exp1(), exp2().substr(0, 76),
+         vseErreurC1C2(exp2(), {108, 30, 30, 22, 90, 91, 94}), true},
+    };
+    for (const auto& c : cas) {
+        std::vector<std::string> sortie = {fichErreur(fich(2), 2, 2, 0), c.erreur, orpheline(c.premier)};
+        if (c.complet) sortie = {fichErreur(fich(2), 1, 2, 1), c.erreur};
+        verifierPublie(c.nom, fichier({fich(2), c.premier, c.compagnon}), 2, sortie);
+    }
+}
+
 TEST(Appariement, LigneEnCRSeul) {
     const std::string saut = "ligne sans suite\r";
     const struct {

@@ -251,6 +251,16 @@ TEST(Enregistrements, PremiereLigneEnCRSeul) {
                     vseErreur(acti(), {135}, "FR", "78123456    ", "FR78123456    ").erase(42, 8), sansFich});
 }
 
+TEST(Enregistrements, LigneEnCRSeulAvantLaFICH) {
+    // The FICH record is then the second of the file, and one too many.
+    const std::string sansFich = "ERRERREINTERFAC" + blancs(42) + "I1001" + blancs(114) + ESTAMPILLE;
+    const std::string f = fich(3);
+    verifierPublie("CR-only line, then FICH", "x\r" + fichier({f, acti()}), 2,
+                   {"INF0000030000020000030000001" + (blancs(105) + ESTAMPILLE) + blancs(97),
+                    vseErreurInconnue(f, {135, 109}).erase(42, 8),
+                    vseErreur(acti(), {135}, "FR", "78123456    ", "FR78123456    ").erase(42, 8), sansFich});
+}
+
 TEST(Enregistrements, RetourDErreur) {
     const std::string ecq = erreECQ();
     for (const char* fin : LES_DEUX)
@@ -306,6 +316,19 @@ TEST(Enregistrements, DixMilleActivites) {
             EXPECT_FALSE(d.existe("recu") || d.existe("recu_r") || d.existe("recu_e") || d.existe("recu_o"));
         }
     }
+}
+
+TEST(Enregistrements, RetourDErreurDUnPartenaire) {
+    // A partner sends no error returns; only its own few records pass.
+    const std::string f = avec(fich(1), {{3, "NORMABEV"}});
+    const std::string ecq = avec(erreECQ(), {{27, "NORMABEV"}});
+    verifierPublie("ERRE of a partner", fichier({f, ecq}), 2,
+                   {fichErreur(f, 1, 1, 0),
+                    vseErreur(ecq, {182}, blancs(2), blancs(12), "ABATCRE" + blancs(7), "NORMABEV")});
+    const std::string faux = avec(ecq, {{256, " "}});
+    verifierPublie("and wrong besides", fichier({f, faux}), 2,
+                   {fichErreur(f, 1, 1, 0),
+                    vseErreur(faux, {182, 94}, blancs(2), blancs(12), "ABATCRE" + blancs(7), "NORMABEV")});
 }
 
 TEST(Enregistrements, SansAucunEnregistrement) {

@@ -191,9 +191,12 @@ TEST(Abat, EnregistrementCoupe) {
     EXPECT_EQ(codesDe(plein.substr(0, 138), OFFICE), (std::vector<int>{52, 52, 90, 91, 94}));
     // Without the indicator a French provenance number is refused.
     EXPECT_EQ(codesDe(plein.substr(0, 137), OFFICE), (std::vector<int>{68, 52, 52, 90, 91, 94}));
-    // An animal number that is not there is not twelve blanks; a date that is
-    // not there is not after another one.
+    // An animal number that is not there is absent; a date that is not there
+    // is not after another one.
     EXPECT_EQ(codesDe(plein.substr(0, 62) + "US", OFFICE),
+              (std::vector<int>{1, 31, 31, 120, 122, 123, 68, 128, 125, 127}));
+    // Cut inside the number it is there.
+    EXPECT_EQ(codesDe(plein.substr(0, 62) + "US7", OFFICE),
               (std::vector<int>{31, 31, 120, 122, 123, 68, 128, 125, 127, 127}));
 }
 

@@ -173,6 +173,15 @@ TEST(Pico, FinDeLaSerie) {
              // A count is a number up to its first non-digit.
              cas{"I0", "53000099999 ", "00001X", true},
              cas{"I0", "53000099999 ", "00002X", false},
+             // A blank or a sign is no digit: nothing stands before it.
+             cas{"I0", "530000 9999 ", "100000", true},
+             cas{"I0", "530000+9999 ", "100000", true},
+             cas{"I0", "530000-9999 ", "100001", false},
+             cas{"PR", "530000R 999 ", "010000", true},
+             cas{"I0", "53000099999 ", " 00002", true},
+             cas{"I0", "53000099999 ", "+00002", true},
+             cas{"I0", "53000099999 ", "-00002", true},
+             cas{"I0", "530000999999", "-99999", false},
              // Numbers too long for a field do not wrap.
              cas{"I0", "5300009999999999999999999999", "000001", false},
              cas{"I0", "53000000000 ", "99999999999999999999", false},
