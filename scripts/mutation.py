@@ -24,10 +24,11 @@ from collections import Counter
 from pathlib import Path
 
 COPIES = ["CMakeLists.txt", "README.md", "src", "tests", "exemples", "fuzz"]
-PIECES = ["checks", "messages", "rules", "driver"]
+PIECES = ["vocabulaire", "checks", "messages", "rules", "driver"]
 
 # Test programs that can notice a change in a room, the most specific first.
 PROGRAMMES = {
+    "vocabulaire": ["tests_checks", "tests_tables", "tests_messages", "tests_rules", "tests_driver", "tests_end_to_end"],
     "checks": ["tests_checks", "tests_messages", "tests_tables", "tests_rules", "tests_driver", "tests_end_to_end"],
     "messages": ["tests_messages", "tests_tables", "tests_rules", "tests_driver", "tests_checks", "tests_end_to_end"],
     "rules": ["tests_rules", "tests_tables", "tests_messages", "tests_checks", "tests_driver", "tests_end_to_end"],
@@ -39,7 +40,7 @@ PARTS = {"cell": 35, "list": 15, "code": 50}
 
 # This header gives the sizes of what tests and product share: a library that
 # was built with another one would be noticed for the wrong reason.
-PARTAGES = {"src/rules/pack.h"}
+PARTAGES = {"src/rules/pack.h", "src/vocabulaire/liste.h"}
 
 CONTRAIRES = {
     "==": ["!="], "!=": ["=="], "<": ["<=", ">"], "<=": ["<", ">="], ">": [">=", "<"], ">=": [">", "<="],
@@ -48,7 +49,7 @@ CONTRAIRES = {
 }
 
 COLONNES = ["field", "first", "last", "CRE", "DEM", "INV", "EDI", "MOD",
-            "check", "count", "list", "dependency", "error"]
+            "check", "list", "dependency", "error"]
 
 
 class Changement:
@@ -157,7 +158,7 @@ def autresCellules(colonne, valeur, table):
         if m is None:
             return ["corps(C1)", "entete(E8)", "fin(F1)"]
         return ["aucune"] + [f"{m[1]}({c})" for c in autresChamps(m[2])]
-    defaut = {"check": ["fVerifValAut", "fDATEC"], "count": ["&LenFR", "&Len0"], "list": ["FR", "ET2"]}[colonne]
+    defaut = {"check": ["fVerifValAut", "fDATEC"], "list": ["&FR", "&ET2", "&sansListe"]}[colonne]
     return sorted({c for c in table[colonne] | set(defaut) if c != valeur})
 
 
@@ -202,7 +203,7 @@ def sites(racine):
             else:
                 apres = CONTRAIRES[avant]
             if apres:
-                liste = chemin.name == "valautorise.cpp" and genre == "texte"
+                liste = chemin.name == "valautorise.h" and genre == "texte"
                 yield fichier, place, "list" if liste else "code", apres, ""
 
 

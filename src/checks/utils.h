@@ -14,12 +14,10 @@
 #ifndef QUILVANE_CHECKS_UTILS_H
 #define QUILVANE_CHECKS_UTILS_H
 
+#include "checks/valautorise.h"
 #include "rules/pack.h"
 
 namespace quilvane {
-
-/** The row's list, as the engine hands it to a check. */
-inline const tValAutorise* listeDe(const void* sverif) { return static_cast<const tValAutorise*>(sverif); }
 
 // ----------------------------------- value lists, blanks, emptiness (listes)
 
@@ -28,14 +26,14 @@ inline const tValAutorise* listeDe(const void* sverif) { return static_cast<cons
  * codes "NORMABEV", "NORM01  ", "NORM02  " and "PFOC01  " belong to every
  * list, an empty one included.
  */
-int dansListe(const char* texte, const tValAutorise* liste, int nombreEntrees);
+int dansListe(const char* texte, const liste& l);
 
 /** Membership by exact comparison alone: the four special codes get no favour. */
-int dansListeStricte(const char* texte, const tValAutorise* liste, int nombreEntrees);
+int dansListeStricte(const char* texte, const liste& l);
 
 /** Whether some entry and `texte`, both cut after `n` characters (at most
  *  eight), are equal. */
-int debutDansListe(const char* texte, const tValAutorise* liste, int nombreEntrees, int n);
+int debutDansListe(const char* texte, const liste& l, int n);
 
 /** 1 when an optional number is left open: twelve blanks or twelve asterisks
  *  (list membership, so the four special codes pass too). */

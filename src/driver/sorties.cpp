@@ -6,6 +6,7 @@
 
 #include "calendar/horloge.h"
 #include "checks/lecture.h"
+#include "checks/valautorise.h"
 #include "driver/etat.h"
 #include "messages/aiguillage.h"
 #include "rules/moteur.h"

@@ -40,45 +40,43 @@ bool dateBlanche(const char* champ) { return egal(champ, HuitBlancs[0].valeur); 
 
 }  // namespace
 
-int asso_fC2_1(const char*, char* champ, const void* sverif, int lenSverif) {
-    return !genreEst('E') || fCoherenCC(entete(E8), champ, sverif, lenSverif);
+int asso_fC2_1(const char*, char* champ, const liste& sverif) {
+    return !genreEst('E') || fCoherenCC(entete(E8), champ, sverif);
 }
 
-int asso_fC2_2(const char*, char* champ, const void*, int) {
-    return !genreEst('E') || fConform8("", champ, TD, LenTD);
-}
+int asso_fC2_2(const char*, char* champ, const liste&) { return !genreEst('E') || fConform8("", champ, TD); }
 
-int asso_fC5(const char*, char*, const void*, int) {
+int asso_fC5(const char*, char*, const liste&) {
     if (genreEst('D')) return typeEst("SIREN") || typeEst("AGRIN");
     if (genreEst('E')) return typeEst("SIRET") || typeEst("AGRIT") || typeEst("AGRSA") || typeEst("CEM");
     return 0;
 }
 
-int asso_fC6_1(const char*, char* champ, const void*, int) {
+int asso_fC6_1(const char*, char* champ, const liste&) {
     return !typeEst("SIREN") || numeroEntreprise(champ, 9, LUHN);
 }
 
-int asso_fC6_1_INV(const char*, char* champ, const void*, int) {
+int asso_fC6_1_INV(const char*, char* champ, const liste&) {
     return !typeEst("SIREN") || numeroEntreprise(champ, 9, SANS_CLE);
 }
 
-int asso_fC6_2(const char*, char* champ, const void*, int) {
+int asso_fC6_2(const char*, char* champ, const liste&) {
     return !typeEst("SIRET") || numeroEntreprise(champ, 14, LUHN);
 }
 
-int asso_fC6_2_INV(const char*, char* champ, const void*, int) {
+int asso_fC6_2_INV(const char*, char* champ, const liste&) {
     return !typeEst("SIRET") || numeroEntreprise(champ, 14, SANS_CLE);
 }
 
-int asso_fC6_3(const char*, char* champ, const void*, int) {
+int asso_fC6_3(const char*, char* champ, const liste&) {
     return !typeEst("AGRIN") || numeroAgricole(champ, 9);
 }
 
-int asso_fC6_4(const char*, char* champ, const void*, int) {
+int asso_fC6_4(const char*, char* champ, const liste&) {
     return !typeEst("AGRIT") || numeroAgricole(champ, 12);
 }
 
-int asso_fC6_5(const char*, char* champ, const void* sverif, int lenSverif) {
+int asso_fC6_5(const char*, char* champ, const liste& sverif) {
     if (!typeEst("AGRSA")) return 1;
     if (contientBlanc(champ, 1, 7)) return 0;
     if (!memeDebut(champ, "2A", 2) && !memeDebut(champ, "2B", 2)) {
@@ -86,54 +84,54 @@ int asso_fC6_5(const char*, char* champ, const void* sverif, int lenSverif) {
         if (memeDebut(champ, "20", 2) || memeDebut(champ, "98", 2)) return 0;
         if (memeDebut(champ, "97", 2) && (!entre(champ, "971", "976", 3) || memeDebut(champ, "975", 3)))
             return 0;
-        if (!debutDansListe(champ, listeDe(sverif), lenSverif, 2)) return 0;
+        if (!debutDansListe(champ, sverif, 2)) return 0;
     }
     return blancs(champ, 9, 20);
 }
 
-int asso_fC6_6(const char*, char* champ, const void*, int) {
+int asso_fC6_6(const char*, char* champ, const liste&) {
     return !typeEst("CEM") || (tous(champ, 1, 7, estLettreOuChiffre) && blancs(champ, 8, 20));
 }
 
-int asso_fC8_1(const char* dependance, char* champ, const void* sverif, int lenSverif) {
-    return dateBlanche(champ) || fDATEC(dependance, champ, sverif, lenSverif);
+int asso_fC8_1(const char* dependance, char* champ, const liste& sverif) {
+    return dateBlanche(champ) || fDATEC(dependance, champ, sverif);
 }
 
-int asso_fC8_2(const char* dependance, char* champ, const void* sverif, int lenSverif) {
-    return dateBlanche(champ) || fCoherenDateSup(dependance, champ, sverif, lenSverif);
+int asso_fC8_2(const char* dependance, char* champ, const liste& sverif) {
+    return dateBlanche(champ) || fCoherenDateSup(dependance, champ, sverif);
 }
 
-int asso_fC8_3(const char* dependance, char* champ, const void* sverif, int lenSverif) {
-    return dateBlanche(champ) || fCoherenDC(dependance, champ, sverif, lenSverif);
+int asso_fC8_3(const char* dependance, char* champ, const liste& sverif) {
+    return dateBlanche(champ) || fCoherenDC(dependance, champ, sverif);
 }
 
 // clang-format off
 constexpr int lAsso = 23;
 constexpr sCorps tAsso[lAsso] = {
-    //field  first  last  CRE  DEM  INV  EDI  MOD  check           count            list         dependency  error
-    {C1,       63,   64,   0,   2,   0,   2,   0, fVerifValAut,   &LenFR,          FR,          aucune,        30},
-    {C2,       65,   76,   0,   2,   0,   2,   0, fVerifDiffNull, &LenDouzeBlancs, DouzeBlancs, aucune,        30},
-    {C2,        0,    0,   0,   2,   0,   2,   0, asso_fC2_1,     &Len0,           nullptr,     aucune,        50},
-    {C2,        0,    0,   0,   2,   0,   2,   0, asso_fC2_2,     &Len0,           nullptr,     aucune,        68},
-    {C3,       77,   78,   1,   1,   1,   1,   1, nullptr,        &Len0,           nullptr,     aucune,         0},
-    {C4,       79,   79,   0,   2,   0,   2,   0, fVerifValAut,   &LenTYP_IDENT,   TYP_IDENT,   aucune,       171},
-    {C5,       80,   84,   0,   2,   0,   2,   0, fVerifValAut,   &LenTYP_NUMERO,  TYP_NUMERO,  aucune,       172},
-    {C5,        0,    0,   0,   2,   1,   2,   0, asso_fC5,       &Len0,           nullptr,     aucune,       183},
-    {C6,       85,  104,   0,   2,   0,   2,   0, fVerifDiffNull, &LenvingtBlancs, vingtBlancs, aucune,       173},
-    {C6,        0,    0,   0,   2,   1,   2,   0, asso_fC6_1,     &Len0,           nullptr,     aucune,       136},
-    {C6,        0,    0,   1,   2,   0,   2,   1, asso_fC6_1_INV, &Len0,           nullptr,     aucune,       136},
-    {C6,        0,    0,   0,   2,   1,   2,   0, asso_fC6_2,     &Len0,           nullptr,     aucune,        41},
-    {C6,        0,    0,   1,   2,   0,   2,   1, asso_fC6_2_INV, &Len0,           nullptr,     aucune,        41},
-    {C6,        0,    0,   0,   2,   0,   2,   0, asso_fC6_3,     &Len0,           nullptr,     aucune,       181},
-    {C6,        0,    0,   0,   2,   0,   2,   0, asso_fC6_4,     &Len0,           nullptr,     aucune,       181},
-    {C6,        0,    0,   0,   2,   0,   2,   0, asso_fC6_5,     &LenTD,          TD,          aucune,       184},
-    {C6,        0,    0,   0,   2,   0,   2,   0, asso_fC6_6,     &Len0,           nullptr,     aucune,       181},
-    {C7,      105,  112,   0,   2,   1,   2,   0, fDATEC,         &Len0,           nullptr,     aucune,       174},
-    {C7,        0,    0,   0,   2,   1,   2,   0, fCoherenDC,     &Len0,           nullptr,     fin(F1),       52},
-    {C8,      113,  120,   0,   2,   1,   2,   0, asso_fC8_1,     &Len0,           nullptr,     aucune,       175},
-    {C8,        0,    0,   0,   2,   1,   2,   0, asso_fC8_2,     &Len0,           nullptr,     corps(C7),    149},
-    {C8,        0,    0,   0,   2,   1,   2,   0, asso_fC8_3,     &Len0,           nullptr,     fin(F1),       52},
-    {C9,      121,  230,   1,   1,   1,   1,   1, nullptr,        &Len0,           nullptr,     aucune,         0},
+    //field  first  last  CRE  DEM  INV  EDI  MOD check           list          dependency  error
+    {C1,       63,   64,   0,   2,   0,   2,   0, fVerifValAut,   &FR,          aucune,       30},
+    {C2,       65,   76,   0,   2,   0,   2,   0, fVerifDiffNull, &DouzeBlancs, aucune,       30},
+    {C2,        0,    0,   0,   2,   0,   2,   0, asso_fC2_1,     &sansListe,   aucune,       50},
+    {C2,        0,    0,   0,   2,   0,   2,   0, asso_fC2_2,     &sansListe,   aucune,       68},
+    {C3,       77,   78,   1,   1,   1,   1,   1, nullptr,        &sansListe,   aucune,        0},
+    {C4,       79,   79,   0,   2,   0,   2,   0, fVerifValAut,   &TYP_IDENT,   aucune,      171},
+    {C5,       80,   84,   0,   2,   0,   2,   0, fVerifValAut,   &TYP_NUMERO,  aucune,      172},
+    {C5,        0,    0,   0,   2,   1,   2,   0, asso_fC5,       &sansListe,   aucune,      183},
+    {C6,       85,  104,   0,   2,   0,   2,   0, fVerifDiffNull, &vingtBlancs, aucune,      173},
+    {C6,        0,    0,   0,   2,   1,   2,   0, asso_fC6_1,     &sansListe,   aucune,      136},
+    {C6,        0,    0,   1,   2,   0,   2,   1, asso_fC6_1_INV, &sansListe,   aucune,      136},
+    {C6,        0,    0,   0,   2,   1,   2,   0, asso_fC6_2,     &sansListe,   aucune,       41},
+    {C6,        0,    0,   1,   2,   0,   2,   1, asso_fC6_2_INV, &sansListe,   aucune,       41},
+    {C6,        0,    0,   0,   2,   0,   2,   0, asso_fC6_3,     &sansListe,   aucune,      181},
+    {C6,        0,    0,   0,   2,   0,   2,   0, asso_fC6_4,     &sansListe,   aucune,      181},
+    {C6,        0,    0,   0,   2,   0,   2,   0, asso_fC6_5,     &TD,          aucune,      184},
+    {C6,        0,    0,   0,   2,   0,   2,   0, asso_fC6_6,     &sansListe,   aucune,      181},
+    {C7,      105,  112,   0,   2,   1,   2,   0, fDATEC,         &sansListe,   aucune,      174},
+    {C7,        0,    0,   0,   2,   1,   2,   0, fCoherenDC,     &sansListe,   fin(F1),      52},
+    {C8,      113,  120,   0,   2,   1,   2,   0, asso_fC8_1,     &sansListe,   aucune,      175},
+    {C8,        0,    0,   0,   2,   1,   2,   0, asso_fC8_2,     &sansListe,   corps(C7),   149},
+    {C8,        0,    0,   0,   2,   1,   2,   0, asso_fC8_3,     &sansListe,   fin(F1),      52},
+    {C9,      121,  230,   1,   1,   1,   1,   1, nullptr,        &sansListe,   aucune,        0},
 };
 // clang-format on
 

@@ -84,7 +84,7 @@ int appliquer(const tableAppliquee& t, int compte) {
         int numero = ERR_GENRE;
         if (code == A_VERIFIER) {
             if (visu == VISU_DECRIPTEE) std::printf("'%s'\n", valeur);
-            if (ligne->pfVerif(ligne->dependance, valeur, ligne->sverif, *ligne->plenSverif)) continue;
+            if (ligne->pfVerif(ligne->dependance, valeur, *ligne->sverif)) continue;
             if (visu == VISU_DECRIPTEE) std::printf("! erreurChamp sur [%s]\n", valeur);
             numero = ligne->noErr;
         } else if (visu == VISU_DECRIPTEE) {

@@ -2,12 +2,12 @@
  * pack.h - the vocabulary of the validator: field numbers, message-type
  * codes, rule rows, value slots, allowed-value lists and the field store.
  *
- * Every source may include this header; it includes nothing of ours.
+ * Every source may include this header; it includes no room of ours.
  */
 #ifndef QUILVANE_RULES_PACK_H
 #define QUILVANE_RULES_PACK_H
 
-#include <cstdint>
+#include "vocabulaire/liste.h"
 
 namespace quilvane {
 
@@ -136,35 +136,12 @@ void getVseCorps();
 // -------------------------------------------------- allowed values, rules
 
 /**
- * One entry of an allowed-value list: a zero-terminated text with the exact
- * width of its field, blanks included. `debut` holds its first eight
- * characters packed into a number, so that a search decides on them at once.
- */
-struct tValAutorise {
-    const char* valeur;
-    std::uint64_t debut;
-
-    /** Entries are written as plain texts; a null text is an empty end row. */
-    constexpr tValAutorise(const char* texte) : valeur(texte), debut(cle(texte)) {}
-
-    /** The first eight characters of `texte`, zeros behind its end. */
-    static constexpr std::uint64_t cle(const char* texte) {
-        std::uint64_t r = 0;
-        if (texte == nullptr) return r;
-        for (int i = 0; i < 8 && texte[i] != '\0'; ++i)
-            r |= std::uint64_t{static_cast<unsigned char>(texte[i])} << (8 * i);
-        return r;
-    }
-};
-
-/**
  * A check. `dependance` is the text of the field that the row depends on (or
- * ""), `champ` the field's own slot, `sverif` the row's list and `lenSverif`
- * its count. Returns non-zero when the field is acceptable. A check prints
- * nothing and changes nothing; only the date reader in incomplete mode
- * rewrites `champ`.
+ * ""), `champ` the field's own slot and `sverif` the row's list. Returns non-zero when the field is
+ * acceptable. A check prints nothing and changes nothing; only the date reader in incomplete mode rewrites
+ * `champ`.
  */
-using fVerif = int(const char* dependance, char* champ, const void* sverif, int lenSverif);
+using fVerif = int(const char* dependance, char* champ, const liste& sverif);
 
 /** One rule row. */
 struct sCorps {
@@ -177,247 +154,10 @@ struct sCorps {
     int typeEDI;
     int typeMOD;
     fVerif* pfVerif;         // the check, or null: the field is only cut out
-    const int* plenSverif;   // count of the list
-    const void* sverif;      // the list, or null
+    const liste* sverif;     // the list, `sansListe` when it needs none
     const char* dependance;  // slot of another field, or ""
     int noErr;               // error number when the check fails
 };
-
-// ------------------------------------------------------ value-list names
-// Contents and stored order: checks/valautorise.cpp.
-
-extern const int Len0;  // count of "no list"
-
-// Header and footer
-extern const tValAutorise tE5[];
-extern const int LentE5;
-extern const tValAutorise tE6[];
-extern const int LentE6;
-extern const tValAutorise tE6CRE[];
-extern const int LentE6CRE;
-extern const tValAutorise tE6DEM[];
-extern const int LentE6DEM;
-extern const tValAutorise tE6INV[];
-extern const int LentE6INV;
-extern const tValAutorise tE6MOD[];
-extern const int LentE6MOD;
-extern const tValAutorise tE6EDI[];
-extern const int LentE6EDI;
-extern const tValAutorise tE6INF[];
-extern const int LentE6INF;
-extern const tValAutorise tE6ECQ[];
-extern const int LentE6ECQ;
-extern const tValAutorise TEC[];
-extern const int LenTEC;
-extern const tValAutorise TDC[];
-extern const int LenTDC;
-extern const tValAutorise versionVSE[];
-extern const int LenversionVSE;
-extern const tValAutorise BDN8[];
-extern const int LenBDN8;
-extern const tValAutorise BDN031[];
-extern const int LenBDN031;
-extern const tValAutorise TOUQ[];
-extern const int LenTOUQ;
-extern const tValAutorise NOUU[];
-extern const int LenNOUU;
-
-// Blank and starred fields
-extern const tValAutorise ET1[];
-extern const int LenET1;
-extern const tValAutorise ET2[];
-extern const int LenET2;
-extern const tValAutorise ET4[];
-extern const int LenET4;
-extern const tValAutorise ET12[];
-extern const int LenET12;
-extern const tValAutorise deuxBlancs[];
-extern const int LendeuxBlancs;
-extern const tValAutorise quatreBlancs[];
-extern const int LenquatreBlancs;
-extern const tValAutorise cinqBlancs[];
-extern const int LencinqBlancs;
-extern const tValAutorise HuitBlancs[];
-extern const int LenHuitBlancs;
-extern const tValAutorise dixBlancs[];
-extern const int LendixBlancs;
-extern const tValAutorise DouzeBlancs[];
-extern const int LenDouzeBlancs;
-extern const tValAutorise quatorzeBlancs[];
-extern const int LenquatorzeBlancs;
-extern const tValAutorise vingtBlancs[];
-extern const int LenvingtBlancs;
-extern const tValAutorise trenteBlancs[];
-extern const int LentrenteBlancs;
-extern const tValAutorise soixanteBlancs[];
-extern const int LensoixanteBlancs;
-extern const tValAutorise HuitBlancsFal[];
-extern const int LenHuitBlancsFal;
-
-// Short codes
-extern const tValAutorise FR[];
-extern const int LenFR;
-extern const tValAutorise UN[];
-extern const int LenUN;
-extern const tValAutorise UNETCINQ[];
-extern const int LenUNETCINQ;
-extern const tValAutorise SEX[];
-extern const int LenSEX;
-extern const tValAutorise SEXFNV[];
-extern const int LenSEXFNV;
-extern const tValAutorise TOUN[];
-extern const int LenTOUN;
-extern const tValAutorise COUE[];
-extern const int LenCOUE;
-extern const tValAutorise BOOL[];
-extern const int LenBOOL;
-extern const tValAutorise BOOLFal[];
-extern const int LenBOOLFal;
-extern const tValAutorise ZERO[];
-extern const int LenZERO;
-extern const tValAutorise Z[];
-extern const int LenZ;
-extern const tValAutorise D7F10[];
-extern const int LenD7F10;
-extern const tValAutorise RES[];
-extern const int LenRES;
-extern const tValAutorise NB[];
-extern const int LenNB;
-extern const tValAutorise MORTNE[];
-extern const int LenMORTNE;
-extern const tValAutorise NUM[];
-extern const int LenNUM;
-
-// Reference dates, DDMMYYYY
-extern const tValAutorise P5[];
-extern const int LenP5;
-extern const tValAutorise P6[];
-extern const int LenP6;
-extern const tValAutorise P7[];
-extern const int LenP7;
-extern const tValAutorise P8[];
-extern const int LenP8;
-extern const tValAutorise P16[];
-extern const int LenP16;
-extern const tValAutorise P17[];
-extern const int LenP17;
-extern const tValAutorise P18[];
-extern const int LenP18;
-
-// Productions, tags, identifiers and orders
-extern const tValAutorise PROD[];
-extern const int LenPROD;
-extern const tValAutorise PROD_E[];
-extern const int LenPROD_E;
-extern const tValAutorise PROD_EV[];
-extern const int LenPROD_EV;
-extern const tValAutorise FIL[];
-extern const int LenFIL;
-extern const tValAutorise FIL_V[];
-extern const int LenFIL_V;
-extern const tValAutorise ELV[];
-extern const int LenELV;
-extern const tValAutorise ELV_V[];
-extern const int LenELV_V;
-extern const tValAutorise TEMOIN[];
-extern const int LenTEMOIN;
-extern const tValAutorise TYP_IDENT[];
-extern const int LenTYP_IDENT;
-extern const tValAutorise DEROUL_MARC[];
-extern const int LenDEROUL_MARC;
-extern const tValAutorise UTIL_BOUC[];
-extern const int LenUTIL_BOUC;
-extern const tValAutorise TYP_NUMERO[];
-extern const int LenTYP_NUMERO;
-extern const tValAutorise C2_MODEL[];
-extern const int LenC2_MODEL;
-extern const tValAutorise C3_MODEL[];
-extern const int LenC3_MODEL;
-extern const tValAutorise C3_MODEL_BV[];
-extern const int LenC3_MODEL_BV;
-extern const tValAutorise C2_MODEL_BV[];
-extern const int LenC2_MODEL_BV;
-extern const tValAutorise FAB_REP[];
-extern const int LenFAB_REP;
-extern const tValAutorise TYP_COM[];
-extern const int LenTYP_COM;
-extern const tValAutorise CAT_RECEN[];
-extern const int LenCAT_RECEN;
-extern const tValAutorise TCE[];
-extern const int LenTCE;
-extern const tValAutorise TTE[];
-extern const int LenTTE;
-extern const tValAutorise TCEP[];
-extern const int LenTCEP;
-
-// Movement causes: cause, last day on which it is valid ("TOUJOURS": always)
-extern const tValAutorise TCME[];
-extern const int LenTCME;
-extern const tValAutorise TCMS[];
-extern const int LenTCMS;
-
-// Department groups that count as one
-extern const tValAutorise DPT2[2][2];
-extern const int LenDPT2;
-extern const tValAutorise DPT3[];
-extern const int LenDPT3;
-extern const tValAutorise DPT4[2][4];
-extern const int LenDPT4;
-extern const tValAutorise DPT5[2][5];
-extern const int LenDPT5;
-extern const tValAutorise DPT6[];
-extern const int LenDPT6;
-extern const tValAutorise DPT7[];
-extern const int LenDPT7;
-extern const tValAutorise DPT8[];
-extern const int LenDPT8;
-extern const tValAutorise DPT17[];
-extern const int LenDPT17;
-
-// Departments: two digits, three characters
-extern const tValAutorise TD[];
-extern const int LenTD;
-extern const tValAutorise TDD[];
-extern const int LenTDD;
-
-// Countries: European Union, exchange partners, all, outside each of the first two
-extern const tValAutorise TCEE[];
-extern const int LenTCEE;
-extern const tValAutorise TECH[];
-extern const int LenTECH;
-extern const tValAutorise TP[];
-extern const int LenTP;
-extern const tValAutorise TCPNOCEE[];
-extern const int LenTCPNOCEE;
-extern const tValAutorise TCPNOECH[];
-extern const int LenTCPNOECH;
-
-// Cattle breeds
-extern const tValAutorise TR[];
-extern const int LenTR;
-extern const tValAutorise TRFNV[];
-extern const int LenTRFNV;
-extern const tValAutorise TRG[];
-extern const int LenTRG;
-
-// Legal forms accepted on creation and on modification
-extern const tValAutorise TRSCRE[];
-extern const int LenTRSCRE;
-extern const tValAutorise TRSMOD[];
-extern const int LenTRSMOD;
-
-// Series letters that each departmental body may issue: body, letters
-extern const tValAutorise NEV[];
-extern const int LenNEV;
-
-// Ovine and caprine number ranges: body, lowest, highest
-extern const tValAutorise IND_M[];
-extern const int LenIND_M;
-
-// Emitter and departmental body that belong together; ended by an empty row,
-// which stands before the count is reached.
-extern const tValAutorise TEDC[][2];
-extern const int LenTEDC;
 
 }  // namespace quilvane
 

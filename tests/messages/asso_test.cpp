@@ -43,19 +43,19 @@ const std::vector<std::string> TYPES = {"SIREN", "SIRET", "AGRIN", "AGRIT", "AGR
 /** A shape check with its verdicts on numbers of its own type; it accepts any
  *  number of another type. */
 void prouverForme(const char* nom, fVerif* verif, const std::string& type, const std::vector<verdict>& cas,
-                  const void* liste = nullptr, int lenListe = 0) {
+                  const liste& sverif = sansListe) {
     SCOPED_TRACE(nom);
     placer("?", type);
-    prouverChamps(verif, "unread", cas, liste, lenListe);
+    prouverChamps(verif, "unread", cas, sverif);
     for (const std::string& autre : TYPES) {
         placer("?", autre);
-        EXPECT_EQ(accepte(verif, "", "?", liste, lenListe), autre != type) << autre;
+        EXPECT_EQ(accepte(verif, "", "?", sverif), autre != type) << autre;
     }
     for (const std::string& autre :
          {std::string("     "), std::string(), type.substr(0, 2), std::string("siren"),
           type.substr(0, 2) + "???", type.substr(0, type == "CEM  " ? 2 : 4) + "?"}) {
         placer("?", autre);
-        EXPECT_TRUE(accepte(verif, "", "?", liste, lenListe)) << "'" << autre << "'";
+        EXPECT_TRUE(accepte(verif, "", "?", sverif)) << "'" << autre << "'";
     }
 }
 
@@ -359,16 +359,16 @@ TEST(Asso, AgrementSanitaire) {
                      {"7", false},
                      {"", false},
                  },
-                 TD, LenTD);
+                 TD);
     // Corsica needs no list; every other department does.
     placer("E", "AGRSA");
-    EXPECT_TRUE(accepte(asso_fC6_5, "", n20("2A12345"), TD, 0));
-    EXPECT_TRUE(accepte(asso_fC6_5, "", n20("2B12345"), TD, 0));
-    EXPECT_FALSE(accepte(asso_fC6_5, "", n20("7812345"), TD, 0));
-    EXPECT_FALSE(accepte(asso_fC6_5, "", n20("9711234"), TD, 0));
-    const tValAutorise exclus[] = {"20", "98"};
-    EXPECT_FALSE(accepte(asso_fC6_5, "", n20("2012345"), exclus, 2));
-    EXPECT_FALSE(accepte(asso_fC6_5, "", n20("9812345"), exclus, 2));
+    EXPECT_TRUE(accepte(asso_fC6_5, "", n20("2A12345"), sansListe));
+    EXPECT_TRUE(accepte(asso_fC6_5, "", n20("2B12345"), sansListe));
+    EXPECT_FALSE(accepte(asso_fC6_5, "", n20("7812345"), sansListe));
+    EXPECT_FALSE(accepte(asso_fC6_5, "", n20("9711234"), sansListe));
+    const liste exclus = {{"20", "98"}};
+    EXPECT_FALSE(accepte(asso_fC6_5, "", n20("2012345"), exclus));
+    EXPECT_FALSE(accepte(asso_fC6_5, "", n20("9812345"), exclus));
 }
 
 TEST(Asso, Cem) {

@@ -119,12 +119,12 @@ TEST(Dete, DetenteurDUneDemande) {
          }) {
         remplir(valCorpsVSE[C12], c.temoin);
         for (const char* departement : {"078IPG  ", "035IPG  ", ""})  // the body plays no part
-            EXPECT_EQ(accepte(fCoherenCC_dete_dem, departement, c.numero, TD, LenTD), c.attendu)
+            EXPECT_EQ(accepte(fCoherenCC_dete_dem, departement, c.numero, TD), c.attendu)
                 << "'" << c.temoin << "' '" << c.numero << "'";
     }
     // The list of the row serves holdings only.
     remplir(valCorpsVSE[C12], "D");
-    EXPECT_TRUE(accepte(fCoherenCC_dete_dem, "078IPG  ", "078         ", nullptr, 0));
+    EXPECT_TRUE(accepte(fCoherenCC_dete_dem, "078IPG  ", "078         ", sansListe));
     remplir(valCorpsVSE[C12], "E");
-    EXPECT_FALSE(accepte(fCoherenCC_dete_dem, "078IPG  ", "78123456    ", TD, 0));
+    EXPECT_FALSE(accepte(fCoherenCC_dete_dem, "078IPG  ", "78123456    ", sansListe));
 }

@@ -71,9 +71,9 @@ TEST(Ecbo, TouteLignePasseEtEchoue) {
 
 TEST(Ecbo, SecondAnimalAbsent) {
     remplirSecond(BLANCS_2, BLANCS_12, BLANCS_2);
-    EXPECT_TRUE(accepte(ecbo_C12, "", BLANCS_2, TP, LenTP));
-    EXPECT_TRUE(accepte(ecbo_C13, BLANCS_2, BLANCS_12, DouzeBlancs, LenDouzeBlancs));
-    EXPECT_TRUE(accepte(ecbo_C15, "", BLANCS_2, TRG, LenTRG));
+    EXPECT_TRUE(accepte(ecbo_C12, "", BLANCS_2, TP));
+    EXPECT_TRUE(accepte(ecbo_C13, BLANCS_2, BLANCS_12, DouzeBlancs));
+    EXPECT_TRUE(accepte(ecbo_C15, "", BLANCS_2, TRG));
 
     const struct {
         const char* nom;
@@ -101,20 +101,18 @@ TEST(Ecbo, SecondAnimalAbsent) {
     };
     for (const auto& c : cas) {
         remplirSecond(c.c12, c.c13, c.c15);
-        EXPECT_EQ(accepte(ecbo_C12, "", c.c12, TP, LenTP), c.v12) << c.nom;
-        EXPECT_EQ(accepte(ecbo_C13, c.c12, c.c13, DouzeBlancs, LenDouzeBlancs), c.v13) << c.nom;
-        EXPECT_EQ(accepte(ecbo_C15, "", c.c15, TRG, LenTRG), c.v15) << c.nom;
+        EXPECT_EQ(accepte(ecbo_C12, "", c.c12, TP), c.v12) << c.nom;
+        EXPECT_EQ(accepte(ecbo_C13, c.c12, c.c13, DouzeBlancs), c.v13) << c.nom;
+        EXPECT_EQ(accepte(ecbo_C15, "", c.c15, TRG), c.v15) << c.nom;
     }
 }
 
 TEST(Ecbo, SecondAnimalParPays) {
     remplirSecond("DE", "1234567890  ", "16");
     prouverChamps(ecbo_C12, "",
-                  {{"FR", true}, {"US", true}, {"EL", true}, {"GR", false}, {"  ", false}, {"", false}}, TP,
-                  LenTP);
+                  {{"FR", true}, {"US", true}, {"EL", true}, {"GR", false}, {"  ", false}, {"", false}}, TP);
     prouverChamps(ecbo_C15, "",
-                  {{"10", true}, {"16", true}, {"99", true}, {"00", false}, {"  ", false}, {"", false}}, TRG,
-                  LenTRG);
+                  {{"10", true}, {"16", true}, {"99", true}, {"00", false}, {"  ", false}, {"", false}}, TRG);
     // A French number is not looked at, but it must be there.
     prouverChamps(ecbo_C13, "FR",
                   {{"FR-1        ", true}, {"9912345678  ", true}, {"", true}, {BLANCS_12, false}});

@@ -91,20 +91,19 @@ TEST(Erti, ProductionSelonLeGenre) {
     for (const char c : std::string("ABCDEFGHIJKLMNOPQRSTUVWXYZ 1d")) {
         const std::string champ(1, c);
         const bool listee = std::string("DEFGHJKLM").find(c) != std::string::npos;
-        EXPECT_EQ(accepte(erti_fC5, "V", champ, PROD_EV, LenPROD_EV), listee) << champ;
+        EXPECT_EQ(accepte(erti_fC5, "V", champ, PROD_EV), listee) << champ;
         for (const char* genre : {"P", "v", " ", "", "V "})
-            EXPECT_EQ(accepte(erti_fC5, genre, champ, PROD_EV, LenPROD_EV), c == ' ')
-                << genre << " " << champ;
+            EXPECT_EQ(accepte(erti_fC5, genre, champ, PROD_EV), c == ' ') << genre << " " << champ;
     }
     // Exactly one blank.
-    EXPECT_FALSE(accepte(erti_fC5, "P", "", PROD_EV, LenPROD_EV));
-    EXPECT_FALSE(accepte(erti_fC5, "P", "  ", PROD_EV, LenPROD_EV));
-    EXPECT_FALSE(accepte(erti_fC5, "V", "", PROD_EV, LenPROD_EV));
-    EXPECT_FALSE(accepte(erti_fC5, "V", "DE", PROD_EV, LenPROD_EV));
-    EXPECT_FALSE(accepte(erti_fC5, "V", "M", PROD_EV, LenPROD_EV - 1));
+    EXPECT_FALSE(accepte(erti_fC5, "P", "", PROD_EV));
+    EXPECT_FALSE(accepte(erti_fC5, "P", "  ", PROD_EV));
+    EXPECT_FALSE(accepte(erti_fC5, "V", "", PROD_EV));
+    EXPECT_FALSE(accepte(erti_fC5, "V", "DE", PROD_EV));
+    EXPECT_FALSE(accepte(erti_fC5, "V", "M", liste{{"D", "E"}}));
     // A list test: the codes of the national bodies belong to every list.
-    EXPECT_TRUE(accepte(erti_fC5, "V", "NORMABEV", PROD_EV, LenPROD_EV));
-    EXPECT_FALSE(accepte(erti_fC5, "P", "NORMABEV", PROD_EV, LenPROD_EV));
+    EXPECT_TRUE(accepte(erti_fC5, "V", "NORMABEV", PROD_EV));
+    EXPECT_FALSE(accepte(erti_fC5, "P", "NORMABEV", PROD_EV));
 }
 
 TEST(Erti, FiliereEtElevage) {
@@ -126,9 +125,9 @@ TEST(Erti, FiliereEtElevage) {
              cas{"m", "OEUF", false, false},   cas{"M ", "    ", true, true},
              cas{"M", "NORMABEV", true, true}, cas{"D", "NORMABEV", false, false},
          }) {
-        EXPECT_EQ(accepte(erti_fC9C10, c.production, c.champ, FIL_V, LenFIL_V), c.filiere)
+        EXPECT_EQ(accepte(erti_fC9C10, c.production, c.champ, FIL_V), c.filiere)
             << "'" << c.production << "' '" << c.champ << "'";
-        EXPECT_EQ(accepte(erti_fC9C10, c.production, c.champ, ELV_V, LenELV_V), c.elevage)
+        EXPECT_EQ(accepte(erti_fC9C10, c.production, c.champ, ELV_V), c.elevage)
             << "'" << c.production << "' '" << c.champ << "'";
     }
 }

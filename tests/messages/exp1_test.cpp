@@ -67,15 +67,15 @@ TEST(Exp1, FormeJuridique) {
         {"GAEC", true},  {"M   ", true},  {"SCIC", true}, {"    ", true}, {"****", true},   {"ABCD", false},
         {"gaec", false}, {"GAE ", false}, {"***", false}, {"   ", false}, {"*****", false}, {"", false},
     };
-    prouverChamps(fexp1_C4, "", communs, TRSCRE, LenTRSCRE);
-    prouverChamps(fexp1_C4, "", communs, TRSMOD, LenTRSMOD);
+    prouverChamps(fexp1_C4, "", communs, TRSCRE);
+    prouverChamps(fexp1_C4, "", communs, TRSMOD);
     for (const char* ancienne : {"ETS ", "MLE ", "MR  ", "MRS ", "STE "}) {
-        EXPECT_FALSE(accepte(fexp1_C4, "", ancienne, TRSCRE, LenTRSCRE)) << ancienne;
-        EXPECT_TRUE(accepte(fexp1_C4, "", ancienne, TRSMOD, LenTRSMOD)) << ancienne;
+        EXPECT_FALSE(accepte(fexp1_C4, "", ancienne, TRSCRE)) << ancienne;
+        EXPECT_TRUE(accepte(fexp1_C4, "", ancienne, TRSMOD)) << ancienne;
     }
-    EXPECT_TRUE(accepte(fexp1_C4, "", "****", nullptr, 0));
-    EXPECT_TRUE(accepte(fexp1_C4, "", "    ", nullptr, 0));
-    EXPECT_FALSE(accepte(fexp1_C4, "", "GAEC", TRSCRE, 0));
+    EXPECT_TRUE(accepte(fexp1_C4, "", "****", sansListe));
+    EXPECT_TRUE(accepte(fexp1_C4, "", "    ", sansListe));
+    EXPECT_FALSE(accepte(fexp1_C4, "", "GAEC", sansListe));
 }
 
 TEST(Exp1, CasDEnregistrements) {

@@ -120,11 +120,11 @@ TEST(Impo, NumeroDeLAnimal) {
                    {"7812345678", false},
                    {"            ", false},
                    {"", false}},
-                  TD, LenTD);
+                  TD);
     // The departments are those of the row's list.
-    EXPECT_FALSE(accepte(impo_C2, "", "7812345678  ", TD, 0));
-    EXPECT_FALSE(accepte(impo_C2, "", "7812345678  ", TD, 1));
-    EXPECT_TRUE(accepte(impo_C2, "", "0112345678  ", TD, 1));
+    EXPECT_FALSE(accepte(impo_C2, "", "7812345678  ", sansListe));
+    EXPECT_FALSE(accepte(impo_C2, "", "7812345678  ", liste{{"01"}}));
+    EXPECT_TRUE(accepte(impo_C2, "", "0112345678  ", liste{{"01"}}));
 }
 
 TEST(Impo, DateDeNaissance) {
@@ -141,11 +141,11 @@ TEST(Impo, DateDeNaissance) {
                    {"       ", false},
                    {"NORMABEV", false},
                    {"", false}},
-                  HuitBlancsFal, LenHuitBlancsFal);
+                  HuitBlancsFal);
     std::string apres;
-    EXPECT_TRUE(accepte(impo_C6_1, "", "  012020", HuitBlancsFal, LenHuitBlancsFal, &apres));
+    EXPECT_TRUE(accepte(impo_C6_1, "", "  012020", HuitBlancsFal, &apres));
     EXPECT_EQ(apres, "00012020");
-    EXPECT_TRUE(accepte(impo_C6_1, "", BLANCS_8, HuitBlancsFal, LenHuitBlancsFal, &apres));
+    EXPECT_TRUE(accepte(impo_C6_1, "", BLANCS_8, HuitBlancsFal, &apres));
     EXPECT_EQ(apres, BLANCS_8);
 }
 
@@ -158,12 +158,12 @@ TEST(Impo, DateDeNaissanceEtDateDEnregistrement) {
                    {"14032024", true},
                    {"  032024", true},
                    {"  042024", false}},
-                  HuitBlancsFal, LenHuitBlancsFal);
+                  HuitBlancsFal);
     // An open date passes before any record date, even none.
-    EXPECT_TRUE(accepte(impo_C6_2, "", ETOILES_8, HuitBlancsFal, LenHuitBlancsFal));
-    EXPECT_TRUE(accepte(impo_C6_2, "", BLANCS_8, HuitBlancsFal, LenHuitBlancsFal));
-    EXPECT_TRUE(accepte(impo_C6_2, "  \x1f     ", BLANCS_8, HuitBlancsFal, LenHuitBlancsFal));
-    EXPECT_FALSE(accepte(impo_C6_2, "", "01012020", HuitBlancsFal, LenHuitBlancsFal));
+    EXPECT_TRUE(accepte(impo_C6_2, "", ETOILES_8, HuitBlancsFal));
+    EXPECT_TRUE(accepte(impo_C6_2, "", BLANCS_8, HuitBlancsFal));
+    EXPECT_TRUE(accepte(impo_C6_2, "  \x1f     ", BLANCS_8, HuitBlancsFal));
+    EXPECT_FALSE(accepte(impo_C6_2, "", "01012020", HuitBlancsFal));
 }
 
 TEST(Impo, Nom) {
@@ -190,7 +190,7 @@ TEST(Impo, PaysDeProvenance) {
                    {"F", false},
                    {"BE ", false},
                    {"", false}},
-                  TP, LenTP);
+                  TP);
 }
 
 TEST(Impo, CasDEnregistrements) {

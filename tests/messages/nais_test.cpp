@@ -248,8 +248,8 @@ TEST(Nais, NumeroSansSerieNulle) {
                           {"781234", false},
                           {"", false},
                       },
-                      TD, LenTD);
-        EXPECT_FALSE(accepte(verif, "", "7812345678  ", TD, 0));
+                      TD);
+        EXPECT_FALSE(accepte(verif, "", "7812345678  ", sansListe));
     }
 }
 
@@ -295,7 +295,7 @@ TEST(Nais, NumeroBlancAvantP5) {
                               {"", false},
                               {"7812345678  ", true},
                           },
-                          TD, LenTD);
+                          TD);
         }
     }
 }
@@ -330,16 +330,16 @@ TEST(Nais, NumeroDeMereSelonPays) {
         remplir(valCorpsVSE[C10], c.pays);
         for (const auto& d : AUTOUR_DE_P5) {
             SCOPED_TRACE(std::string(c.pays) + " " + c.numero + " " + d.c6);
-            EXPECT_EQ(accepte(nais_C11, d.c6, c.numero, TD, LenTD), c.fr);
-            EXPECT_EQ(accepte(nais_C11FRnonUEnon, d.c6, c.numero, TD, LenTD), c.horsEchanges);
+            EXPECT_EQ(accepte(nais_C11, d.c6, c.numero, TD), c.fr);
+            EXPECT_EQ(accepte(nais_C11FRnonUEnon, d.c6, c.numero, TD), c.horsEchanges);
             EXPECT_EQ(accepte(nais_C11FRnonUEoui, d.c6, c.numero), c.echanges);
         }
     }
     // The departments are those of the row.
     remplir(valCorpsVSE[C10], "FR");
-    EXPECT_FALSE(accepte(nais_C11, "15032024", "7812345678  ", TD, 0));
+    EXPECT_FALSE(accepte(nais_C11, "15032024", "7812345678  ", sansListe));
     remplir(valCorpsVSE[C10], "US");
-    EXPECT_FALSE(accepte(nais_C11FRnonUEnon, "15032024", "7812345678  ", TD, 0));
+    EXPECT_FALSE(accepte(nais_C11FRnonUEnon, "15032024", "7812345678  ", sansListe));
 }
 
 TEST(Nais, ExploitationBlancheAvantP6) {
@@ -360,7 +360,7 @@ TEST(Nais, ExploitationBlancheAvantP6) {
                           {"", false},
                           {"78123456   ", false},
                       },
-                      TD, LenTD);
-        EXPECT_FALSE(accepte(nais_C17, d.c6, "78123456    ", TD, 0));
+                      TD);
+        EXPECT_FALSE(accepte(nais_C17, d.c6, "78123456    ", sansListe));
     }
 }
