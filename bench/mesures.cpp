@@ -8,7 +8,11 @@
 #include <string>
 #include <vector>
 
-#include "checks/utils.h"
+#include "checks/coherence.h"
+#include "checks/conformite.h"
+#include "checks/dates.h"
+#include "checks/listes.h"
+#include "checks/valautorise.h"
 #include "driver/etat.h"
 #include "driver/flux.h"
 #include "driver/sorties.h"
@@ -17,6 +21,8 @@
 #include "rules/moteur.h"
 #include "support/generateur.h"
 #include "support/vse.h"
+#include "vocabulaire/regle.h"
+#include "vocabulaire/store.h"
 
 using namespace quilvane;
 

@@ -2,18 +2,26 @@
  * The check functions with arbitrary texts and lengths. Texts stand in blocks
  * of their exact size, so that a look behind a terminator is seen.
  */
+#include "calendar/datecalc.h"
+#include "checks/abattage.h"
+#include "checks/coherence.h"
+#include "checks/conformite.h"
+#include "checks/dates.h"
+#include "checks/identifiants.h"
+#include "checks/lecture.h"
+#include "checks/listes.h"
+#include "checks/reference.h"
+#include "checks/valautorise.h"
 #include "cible.h"
+#include "messages/aiguillage.h"
+#include "rules/entete.h"
+#include "vocabulaire/regle.h"
+#include "vocabulaire/store.h"
 
 #include <cstring>
 #include <memory>
 #include <vector>
 
-#include "calendar/datecalc.h"
-#include "checks/lecture.h"
-#include "checks/utils.h"
-#include "messages/aiguillage.h"
-#include "messages/messages.h"
-#include "rules/entete.h"
 
 using namespace quilvane;
 

@@ -3,8 +3,13 @@
  * the extract of the whole notice, rather than at their own field; and a few
  * small checks that no row names.
  */
+#include "checks/abattage.h"
+
+#include "checks/identifiants.h"
 #include "checks/lecture.h"
-#include "checks/utils.h"
+#include "checks/listes.h"
+#include "checks/valautorise.h"
+#include "vocabulaire/store.h"
 
 namespace quilvane {
 

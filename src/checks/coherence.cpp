@@ -3,13 +3,16 @@
  * with the departmental body, dates with the record's own date; and the date
  * reader on which every date check rests.
  */
+#include "checks/coherence.h"
+
 #include <algorithm>
 #include <charconv>
 #include <iterator>
 
 #include "calendar/datecalc.h"
 #include "checks/lecture.h"
-#include "checks/utils.h"
+#include "checks/valautorise.h"
+#include "vocabulaire/store.h"
 
 namespace quilvane {
 

@@ -4,8 +4,13 @@
  * numbers, its wrappers by country, and the ovine and caprine (OC) and bovine
  * (BV) checks.
  */
+#include "checks/conformite.h"
+
 #include "checks/lecture.h"
-#include "checks/utils.h"
+#include "checks/listes.h"
+#include "checks/reference.h"
+#include "checks/valautorise.h"
+#include "vocabulaire/store.h"
 
 namespace quilvane {
 
@@ -48,6 +53,10 @@ int fConform8(const char*, char* champ, const liste& sverif) {
 
 int fConform10(const char*, char* champ, const liste& sverif) {
     return numeroFrancais(champ, sverif, 10, BLANCS_JUSQUA_12);
+}
+
+int fConform10NonNul(const char* dependance, char* champ, const liste& sverif) {
+    return fConform10(dependance, champ, sverif) && fVerifDiffZero(champ, 7, 10);
 }
 
 int fConform8C(const char*, char* champ, const liste& sverif) {

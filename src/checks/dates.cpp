@@ -2,11 +2,16 @@
  * dates - whether a date or time is well formed and plausible: complete or
  * partly unknown, before or after another date of its record.
  */
+#include "checks/dates.h"
+
 #include <ctime>
 
 #include "calendar/horloge.h"
+#include "checks/coherence.h"
 #include "checks/lecture.h"
-#include "checks/utils.h"
+#include "checks/reference.h"
+#include "checks/valautorise.h"
+#include "vocabulaire/store.h"
 
 namespace quilvane {
 

@@ -3,9 +3,13 @@
  * numbers, member states, French holding, approval and bovine numbers, EGET
  * holding codes.
  */
+#include "checks/identifiants.h"
+
 #include "calendar/datecalc.h"
 #include "checks/lecture.h"
-#include "checks/utils.h"
+#include "checks/listes.h"
+#include "checks/valautorise.h"
+#include "vocabulaire/store.h"
 
 namespace quilvane {
 

@@ -2,11 +2,13 @@
  * listes - membership of value lists, absence of blanks, emptiness, and the
  * form of foreign numbers: the checks that the other families are built of.
  */
+#include "checks/listes.h"
+
 #include <algorithm>
 
 #include "checks/index.h"
 #include "checks/lecture.h"
-#include "checks/utils.h"
+#include "checks/valautorise.h"
 
 namespace quilvane {
 

@@ -3,8 +3,14 @@
  * an exception for blanks or for one code, and tests that one of two fields is
  * filled.
  */
+#include "checks/reference.h"
+
+#include "checks/coherence.h"
+#include "checks/conformite.h"
 #include "checks/lecture.h"
-#include "checks/utils.h"
+#include "checks/listes.h"
+#include "checks/valautorise.h"
+#include "vocabulaire/store.h"
 
 namespace quilvane {
 

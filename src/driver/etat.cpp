@@ -2,6 +2,8 @@
 
 #include <cstring>
 
+#include "vocabulaire/store.h"
+
 namespace quilvane {
 
 constinit const char* name_recu = nullptr;
@@ -51,20 +53,8 @@ void initialiserEtat() {
     std::memset(sauvTamponVSE, 0, sizeof sauvTamponVSE);
     existDependanceVSEerr = 0;
     err_aux = 0;
-    // The field store and the engine's flags belong to the run as well.
-    std::memset(valEnteteVSE, 0, sizeof valEnteteVSE);
-    std::memset(valCorpsVSE, 0, sizeof valCorpsVSE);
-    std::memset(valFinVSE, 0, sizeof valFinVSE);
-    std::memset(valFichEnteteVSE, 0, sizeof valFichEnteteVSE);
-    std::memset(valFichCorpsVSE, 0, sizeof valFichCorpsVSE);
-    std::memset(valFichFinVSE, 0, sizeof valFichFinVSE);
-    std::memset(codeErreur, 0, sizeof codeErreur);
-    std::memset(bufC11, 0, sizeof bufC11);
-    std::memset(&cp, 0, sizeof cp);
-    std::memset(xdebug, 0, sizeof xdebug);
-    nbErreur = 0;
-    codCaract = 0;
-    codLong = 0;
+    // What is known of the record in hand belongs to the run as well.
+    leStore = {};
 }
 
 }  // namespace quilvane

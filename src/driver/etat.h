@@ -7,7 +7,7 @@
 
 #include <cstdio>
 
-#include "rules/pack.h"
+#include "vocabulaire/pack.h"
 
 namespace quilvane {
 

@@ -8,7 +8,7 @@
 #include <cstdio>
 
 #include "driver/flux.h"
-#include "rules/pack.h"
+#include "vocabulaire/store.h"
 
 namespace quilvane {
 

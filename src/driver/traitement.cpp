@@ -3,15 +3,16 @@
 #include <cstdio>
 #include <cstring>
 
+#include "checks/coherence.h"
 #include "checks/lecture.h"
-#include "checks/utils.h"
+#include "checks/listes.h"
 #include "driver/etat.h"
 #include "driver/publication.h"
 #include "driver/sorties.h"
 #include "messages/aiguillage.h"
-#include "messages/messages.h"
 #include "rules/entete.h"
 #include "rules/moteur.h"
+#include "vocabulaire/store.h"
 
 namespace quilvane {
 

@@ -3,9 +3,19 @@
  * library (abattage) and read `cp`, which `presence_C2` fills for the rows
  * that follow it.
  */
+#include <iterator>
+
+#include "checks/abattage.h"
+#include "checks/coherence.h"
+#include "checks/dates.h"
+#include "checks/identifiants.h"
 #include "checks/lecture.h"
-#include "checks/utils.h"
-#include "messages/messages.h"
+#include "checks/listes.h"
+#include "checks/valautorise.h"
+#include "messages/aiguillage.h"
+#include "rules/preuve.h"
+#include "vocabulaire/regle.h"
+#include "vocabulaire/store.h"
 
 namespace quilvane {
 
@@ -21,18 +31,19 @@ struct paysAnimal {
 
 }  // namespace
 
+/** A bovine number (12) of country "FR" has the French or imported form. Error 67. */
 int vAbat_C2_1(const char*, char* champ, const liste&) {
     return !paysAnimal().estFR() || verifNumBovinFrOuImporte(champ);
 }
 
+/** A bovine number of "CH" or another member state has a foreign form. Error 1. */
 int vAbat_C2_2(const char*, char* champ, const liste&) {
     const paysAnimal pays;
     return !pays.numeroEtranger() || fVerifNumEtranger(pays.code, champ, sansListe);
 }
 
 // clang-format off
-constexpr int lAbat = 25;
-constexpr sCorps tAbat[lAbat] = {
+constexpr sCorps tAbat[] = {
     //field  first  last  CRE  DEM  INV  EDI  MOD check                        list        dependency  error
     {C1,       63,   64,   0,   1,   0,   1,   0, fVerifValAut,                &TP,        aucune,        1},
     {C2,       65,   76,   0,   1,   0,   1,   0, presence_C2,                 &sansListe, aucune,        1},
@@ -60,6 +71,8 @@ constexpr sCorps tAbat[lAbat] = {
     {C11,       0,    0,   0,   1,   0,   1,   0, fVerif_NUMID_ABATNOT_TABREF, &sansListe, aucune,      127},
     {C12,     138,  138,   0,   1,   0,   1,   0, fVerif_INDIC_ABAT,           &FR,        aucune,      139},
 };
+constexpr int lAbat = static_cast<int>(std::size(tAbat));
 // clang-format on
+static_assert(lignesJustes<examiner(tAbat, CORPS)>());
 
 }  // namespace quilvane

@@ -1,14 +1,22 @@
 /**
  * ACTI - activity of a holding.
  */
-#include "checks/utils.h"
-#include "messages/messages.h"
+#include <iterator>
+
+#include "checks/coherence.h"
+#include "checks/conformite.h"
+#include "checks/dates.h"
+#include "checks/listes.h"
+#include "checks/valautorise.h"
+#include "messages/aiguillage.h"
+#include "rules/preuve.h"
+#include "vocabulaire/regle.h"
+#include "vocabulaire/store.h"
 
 namespace quilvane {
 
 // clang-format off
-constexpr int lActi = 12;
-constexpr sCorps tActi[lActi] = {
+constexpr sCorps tActi[] = {
     //field  first  last  CRE  DEM  INV  EDI  MOD check           list          dependency  error
     {C1,       63,   64,   0,   2,   0,   2,   0, fVerifValAut,   &FR,          aucune,       31},
     {C2,       65,   76,   0,   2,   0,   2,   0, fVerifDiffNull, &DouzeBlancs, aucune,       31},
@@ -23,6 +31,8 @@ constexpr sCorps tActi[lActi] = {
     {C7,       96,   96,   0,   2,   0,   2,   0, fVerifValAut,   &PROD,        aucune,      131},
     {C8,       97,  230,   1,   1,   1,   1,   1, nullptr,        &sansListe,   aucune,        0},
 };
+constexpr int lActi = static_cast<int>(std::size(tActi));
 // clang-format on
+static_assert(lignesJustes<examiner(tActi, CORPS)>());
 
 }  // namespace quilvane

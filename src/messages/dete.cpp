@@ -1,20 +1,31 @@
 /**
  * DETE - keeper of animals.
  */
+#include <iterator>
+
+#include "checks/coherence.h"
+#include "checks/conformite.h"
+#include "checks/identifiants.h"
 #include "checks/lecture.h"
-#include "checks/utils.h"
-#include "messages/messages.h"
+#include "checks/listes.h"
+#include "checks/reference.h"
+#include "checks/valautorise.h"
+#include "messages/aiguillage.h"
+#include "rules/preuve.h"
+#include "vocabulaire/regle.h"
+#include "vocabulaire/store.h"
 
 namespace quilvane {
 
+/** On a request: a keeper (body C12 "D") by department, a holding by its
+ *  French number (12). Error 50. */
 int fCoherenCC_dete_dem(const char* dependance, char* champ, const liste& sverif) {
     if (vaut(corps(C12), "D")) return fConform3(entete(E8), champ, TDD);
     return fConform8(dependance, champ, sverif);
 }
 
 // clang-format off
-constexpr int lDete = 17;
-constexpr sCorps tDete[lDete] = {
+constexpr sCorps tDete[] = {
     //field  first  last  CRE  DEM  INV  EDI  MOD check                list           dependency  error
     {C1,       63,   64,   0,   0,   0,   2,   0, fVerifValAut,        &FR,           aucune,       30},
     {C2,       65,   76,   0,   0,   0,   2,   0, fVerifDiffNull,      &DouzeBlancs,  aucune,       30},
@@ -34,6 +45,13 @@ constexpr sCorps tDete[lDete] = {
     {C12,     224,  224,   1,   0,   1,   2,   1, fVerifValAut,        &TEMOIN,       aucune,      130},
     {C13,     225,  230,   1,   1,   1,   1,   1, nullptr,             &sansListe,    aucune,        0},
 };
+constexpr int lDete = static_cast<int>(std::size(tDete));
 // clang-format on
+
+/** What its own checks do with the list of their row. */
+constexpr usageDeListe USAGES_DETE[] = {
+    {fCoherenCC_dete_dem, DEUX_COLONNES},
+};
+static_assert(lignesJustes<examiner(tDete, CORPS, USAGES_DETE)>());
 
 }  // namespace quilvane

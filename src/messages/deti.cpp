@@ -1,14 +1,22 @@
 /**
  * DETI - activity of a keeper.
  */
-#include "checks/utils.h"
-#include "messages/messages.h"
+#include <iterator>
+
+#include "checks/coherence.h"
+#include "checks/dates.h"
+#include "checks/identifiants.h"
+#include "checks/listes.h"
+#include "checks/valautorise.h"
+#include "messages/aiguillage.h"
+#include "rules/preuve.h"
+#include "vocabulaire/regle.h"
+#include "vocabulaire/store.h"
 
 namespace quilvane {
 
 // clang-format off
-constexpr int lDeti = 10;
-constexpr sCorps tDeti[lDeti] = {
+constexpr sCorps tDeti[] = {
     //field  first  last  CRE  DEM  INV  EDI  MOD check           list          dependency  error
     {C1,       63,   64,   0,   2,   0,   2,   0, fVerifValAut,   &FR,          aucune,       30},
     {C2,       65,   76,   0,   2,   0,   2,   0, fVerifDiffNull, &DouzeBlancs, aucune,       30},
@@ -21,6 +29,8 @@ constexpr sCorps tDeti[lDeti] = {
     {C6,        0,    0,   1,   2,   0,   2,   0, fCoherenDC,     &sansListe,   fin(F1),      52},
     {C7,       96,  230,   1,   1,   1,   1,   1, nullptr,        &sansListe,   aucune,        0},
 };
+constexpr int lDeti = static_cast<int>(std::size(tDeti));
 // clang-format on
+static_assert(lignesJustes<examiner(tDeti, CORPS)>());
 
 }  // namespace quilvane

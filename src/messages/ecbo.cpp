@@ -1,9 +1,16 @@
 /**
  * ECBO - data of a bovine animal.
  */
+#include <iterator>
+
+#include "checks/conformite.h"
 #include "checks/lecture.h"
-#include "checks/utils.h"
-#include "messages/messages.h"
+#include "checks/listes.h"
+#include "checks/valautorise.h"
+#include "messages/aiguillage.h"
+#include "rules/preuve.h"
+#include "vocabulaire/regle.h"
+#include "vocabulaire/store.h"
 
 namespace quilvane {
 
@@ -20,19 +27,21 @@ int absentOuEnListe(const char* champ, const liste& sverif) {
 
 }  // namespace
 
+/** A country (2) of the list, or all three blank. Error 14. */
 int ecbo_C12(const char*, char* champ, const liste& sverif) { return absentOuEnListe(champ, sverif); }
 
+/** A number (12): "FR" (dependency) is free, else foreign form. Error 14. */
 int ecbo_C13(const char* dependance, char* champ, const liste&) {
     if (secondAnimalAbsent()) return 1;
     if (egal(champ, DouzeBlancs[0].valeur)) return 0;
     return vaut(dependance, "FR") || fVerifNumEtranger(dependance, champ, sansListe);
 }
 
+/** A breed (2) of the list, or all three blank. Error 16. */
 int ecbo_C15(const char*, char* champ, const liste& sverif) { return absentOuEnListe(champ, sverif); }
 
 // clang-format off
-constexpr int lEcbo = 20;
-constexpr sCorps tEcbo[lEcbo] = {
+constexpr sCorps tEcbo[] = {
     //field  first  last  CRE  DEM  INV  EDI  MOD check                   list          dependency  error
     {C1,       63,   64,   0,   2,   0,   2,   2, fVerifValAut,           &TP,          aucune,        1},
     {C2,       65,   76,   0,   2,   0,   2,   2, fVerifDiffNull,         &DouzeBlancs, aucune,        1},
@@ -55,6 +64,15 @@ constexpr sCorps tEcbo[lEcbo] = {
     {C15,     137,  138,   0,   2,   1,   2,   2, ecbo_C15,               &TRG,         aucune,       16},
     {C16,     139,  230,   1,   1,   1,   1,   1, nullptr,                &sansListe,   aucune,        0},
 };
+constexpr int lEcbo = static_cast<int>(std::size(tEcbo));
 // clang-format on
+
+/** What its own checks do with the list of their row. */
+constexpr usageDeListe USAGES_ECBO[] = {
+    {ecbo_C12, ENTIER},
+    {ecbo_C13, NON_LUE},
+    {ecbo_C15, ENTIER},
+};
+static_assert(lignesJustes<examiner(tEcbo, CORPS, USAGES_ECBO)>());
 
 }  // namespace quilvane

@@ -1,14 +1,23 @@
 /**
  * ECHA - animal from an intra-community exchange.
  */
-#include "checks/utils.h"
-#include "messages/messages.h"
+#include <iterator>
+
+#include "checks/coherence.h"
+#include "checks/conformite.h"
+#include "checks/dates.h"
+#include "checks/listes.h"
+#include "checks/reference.h"
+#include "checks/valautorise.h"
+#include "messages/aiguillage.h"
+#include "rules/preuve.h"
+#include "vocabulaire/regle.h"
+#include "vocabulaire/store.h"
 
 namespace quilvane {
 
 // clang-format off
-constexpr int lEcha = 36;
-constexpr sCorps tEcha[lEcha] = {
+constexpr sCorps tEcha[] = {
     //field  first  last  CRE  DEM  INV  EDI  MOD check               list           dependency  error
     {C1,       63,   64,   0,   2,   0,   2,   0, fVTABDIFFFR,        &TECH,         aucune,        1},
     {C2,       65,   76,   0,   2,   0,   2,   0, fVerifDiffNull,     &DouzeBlancs,  aucune,        1},
@@ -47,6 +56,8 @@ constexpr sCorps tEcha[lEcha] = {
     {C23,       0,    0,   0,   2,   1,   2,   1, fDatRecPost,        &sansListe,    corps(C6),   137},
     {C24,     185,  230,   1,   1,   1,   1,   1, nullptr,            &sansListe,    aucune,        0},
 };
+constexpr int lEcha = static_cast<int>(std::size(tEcha));
 // clang-format on
+static_assert(lignesJustes<examiner(tEcha, CORPS)>());
 
 }  // namespace quilvane

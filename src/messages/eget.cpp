@@ -1,19 +1,27 @@
 /**
  * EGET - production site. A creation must be followed by its RATA.
  */
+#include <iterator>
+
+#include "checks/coherence.h"
+#include "checks/identifiants.h"
 #include "checks/lecture.h"
-#include "checks/utils.h"
-#include "messages/messages.h"
+#include "checks/listes.h"
+#include "checks/valautorise.h"
+#include "messages/aiguillage.h"
+#include "rules/preuve.h"
+#include "vocabulaire/regle.h"
+#include "vocabulaire/store.h"
 
 namespace quilvane {
 
+/** One of two fields of thirty columns (`champ`, dependency) is filled. Error 141. */
 int eget_fC5C6(const char* dependance, char* champ, const liste&) {
     return !egal(dependance, trenteBlancs[0].valeur) || !egal(champ, trenteBlancs[0].valeur);
 }
 
 // clang-format off
-constexpr int lEget = 11;
-constexpr sCorps tEget[lEget] = {
+constexpr sCorps tEget[] = {
     //field  first  last  CRE  DEM  INV  EDI  MOD check           list           dependency  error
     {C1,       63,   64,   0,   2,   0,   2,   0, fVerifValAut,   &FR,           aucune,      139},
     {C2,       65,   76,   0,   2,   0,   2,   0, fVerifDiffNull, &DouzeBlancs,  aucune,      139},
@@ -27,6 +35,8 @@ constexpr sCorps tEget[lEget] = {
     {C8,      145,  174,   0,   2,   1,   2,   0, fVerifDiffNull, &trenteBlancs, aucune,      143},
     {C9,      175,  230,   1,   1,   1,   1,   1, nullptr,        &sansListe,    aucune,        0},
 };
+constexpr int lEget = static_cast<int>(std::size(tEget));
 // clang-format on
+static_assert(lignesJustes<examiner(tEget, CORPS)>());
 
 }  // namespace quilvane

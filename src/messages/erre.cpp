@@ -3,9 +3,18 @@
  * between C10 and C29 have no row and are not cut, so from C29 on a field's
  * slot is its position in the table, not its number.
  */
+#include <iterator>
+
+#include "checks/coherence.h"
+#include "checks/dates.h"
+#include "checks/identifiants.h"
 #include "checks/lecture.h"
-#include "checks/utils.h"
-#include "messages/messages.h"
+#include "checks/listes.h"
+#include "checks/valautorise.h"
+#include "messages/aiguillage.h"
+#include "rules/preuve.h"
+#include "vocabulaire/regle.h"
+#include "vocabulaire/store.h"
 
 namespace quilvane {
 
@@ -32,58 +41,74 @@ int agrementOuExploitation(const char* champ) {
 
 }  // namespace
 
+/** Only errors about slaughter notices: exactly "ABAT". Error 190. */
 int vErre_C1(const char*, char* champ, const liste&) { return vaut(champ, "ABAT"); }
 
+/** Not blank. Errors 185, 21 and 188. */
 int vErre_C4(const char*, char* champ, const liste&) { return !champVide(champ); }
 int vErre_C8(const char*, char* champ, const liste&) { return !champVide(champ); }
 int vErre_C10(const char*, char* champ, const liste&) { return !champVide(champ); }
 
+/** A country (2) of `TP`; blank unless the type is ABAT. Error 1. */
 int vErre_C5(const char*, char* champ, const liste&) {
     if (surABAT() && contientBlanc(champ, 1, 2)) return 0;
     if (!surABAT() && vaut(champ, "  ")) return 1;
     return dansListe(champ, TP);
 }
 
+/** A number (12) of foreign form for columns 84-85; blank unless ABAT. Error 186. */
 int vErre_C6(const char*, char* champ, const liste&) {
     if (champVide(champ)) return !surABAT();
     return fVerifNumEtranger(pays(COL_PAYS_C6).code, champ, sansListe);
 }
 
+/** Exactly "FR". Error 21. */
 int vErre_C7(const char*, char* champ, const liste&) { return vaut(champ, "FR"); }
 
+/** Blank, or a French approval number (ABAT) or holding number. Error 68. */
 int vErre_C8_conf(const char*, char* champ, const liste&) { return agrementOuExploitation(champ); }
+/** As `vErre_C8_conf`. Error 189. */
 int vErre_C30(const char*, char* champ, const liste&) { return agrementOuExploitation(champ); }
 
+/** Exactly four letters or digits. Error 187. */
 int vErre_C9(const char*, char* champ, const liste&) {
     return std::strlen(champ) == 4 && tous(champ, 1, 4, estLettreOuChiffre);
 }
 
+/** Blank or exactly "FR". Error 189. */
 int vErre_C29(const char*, char* champ, const liste&) { return champVide(champ) || vaut(champ, "FR"); }
 
+/** Two blanks or a country of `TP`. Error 1. */
 int vErre_C31(const char*, char* champ, const liste&) { return vaut(champ, "  ") || dansListe(champ, TP); }
 
+/** Animal number (12), blank passes; country (columns 176-177) "FR": French or
+ *  imported form. Error 67. */
 int vErre_C32_1(const char*, char* champ, const liste&) {
     if (champVide(champ)) return 1;
     return !pays(COL_PAYS_ANIMAL).estFR() || verifNumBovinFrOuImporte(champ);
 }
 
+/** The same for a country outside the member states and "CH". Error 118. */
 int vErre_C32_2(const char*, char* champ, const liste&) {
     if (champVide(champ)) return 1;
     const pays animal(COL_PAYS_ANIMAL);
     return animal.estFR() || animal.partenaire() || verifNumBovinFrOuImporte(champ);
 }
 
+/** "CH" or another member state: foreign form. Error 1. */
 int vErre_C32_3(const char*, char* champ, const liste&) {
     if (champVide(champ)) return 1;
     const pays animal(COL_PAYS_ANIMAL);
     return animal.estFR() || !animal.partenaire() || fVerifNumEtranger(animal.code, champ, sansListe);
 }
 
+/** A complete date (8), required for ABAT. Error 122. */
 int vErre_C36_1(const char*, char* champ, const liste&) {
     if (std::strlen(champ) != 8) return 0;
     return champVide(champ) ? !surABAT() : verifDateCompleteEtCorrecte(champ);
 }
 
+/** Blank, a departmental body of `TDC`, or a national code (8). Error 87. */
 int vErre_C37_1(const char*, char* champ, const liste&) {
     if (champVide(champ)) return 1;
     if (std::strlen(champ) != 8) return 0;
@@ -94,13 +119,13 @@ int vErre_C37_1(const char*, char* champ, const liste&) {
            vaut(champ, "POINTFOC");
 }
 
+/** Blank, or a body that goes with the file's emitter (dependency). Error 135. */
 int vErre_C37_2(const char* dependance, char* champ, const liste&) {
     return champVide(champ) || egal(champ, dependance) || pairesTEDC(dependance, champ);
 }
 
 // clang-format off
-constexpr int lErre = 28;
-constexpr sCorps tErre[lErre] = {
+constexpr sCorps tErre[] = {
     //field  first  last  CRE  DEM  INV  EDI  MOD check          list        dependency      error
     {C1,       63,   66,   0,   1,   0,   1,   0, fVerifValAut,  &tE6,       aucune,           85},
     {C1,        0,    0,   0,   1,   0,   1,   0, vErre_C1,      &sansListe, aucune,          190},
@@ -131,6 +156,8 @@ constexpr sCorps tErre[lErre] = {
     {C37,     222,  229,   0,   1,   0,   1,   0, vErre_C37_1,   &sansListe, aucune,           87},
     {C37,       0,    0,   0,   1,   0,   1,   0, vErre_C37_2,   &sansListe, fichEntete(E3),  135},
 };
+constexpr int lErre = static_cast<int>(std::size(tErre));
 // clang-format on
+static_assert(lignesJustes<examiner(tErre, CORPS)>());
 
 }  // namespace quilvane

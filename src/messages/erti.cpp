@@ -1,23 +1,34 @@
 /**
  * ERTI - production of a site.
  */
+#include <iterator>
+
+#include "checks/coherence.h"
+#include "checks/dates.h"
+#include "checks/identifiants.h"
 #include "checks/lecture.h"
-#include "checks/utils.h"
-#include "messages/messages.h"
+#include "checks/listes.h"
+#include "checks/valautorise.h"
+#include "messages/aiguillage.h"
+#include "rules/preuve.h"
+#include "vocabulaire/regle.h"
+#include "vocabulaire/store.h"
 
 namespace quilvane {
 
+/** Production of kind "V" (dependency) in the list; otherwise a blank. Error 131. */
 int erti_fC5(const char* dependance, char* champ, const liste& sverif) {
     return vaut(dependance, "V") ? dansListe(champ, sverif) : vaut(champ, " ");
 }
 
+/** Production "M" (dependency): in the list; otherwise four blanks. Errors 146
+ *  and 147. */
 int erti_fC9C10(const char* dependance, char* champ, const liste& sverif) {
     return vaut(dependance, "M") ? dansListe(champ, sverif) : vaut(champ, "    ");
 }
 
 // clang-format off
-constexpr int lErti = 18;
-constexpr sCorps tErti[lErti] = {
+constexpr sCorps tErti[] = {
     //field  first  last  CRE  DEM  INV  EDI  MOD check           list          dependency  error
     {C1,       63,   64,   0,   2,   0,   2,   0, fVerifValAut,   &FR,          aucune,      139},
     {C2,       65,   76,   0,   2,   0,   2,   0, fVerifDiffNull, &DouzeBlancs, aucune,      139},
@@ -38,6 +49,14 @@ constexpr sCorps tErti[lErti] = {
     {C10,     109,  112,   0,   2,   1,   2,   0, erti_fC9C10,    &ELV_V,       corps(C5),   147},
     {C11,     113,  230,   1,   1,   1,   1,   1, nullptr,        &sansListe,   aucune,        0},
 };
+constexpr int lErti = static_cast<int>(std::size(tErti));
 // clang-format on
+
+/** What its own checks do with the list of their row. */
+constexpr usageDeListe USAGES_ERTI[] = {
+    {erti_fC5, ENTIER},
+    {erti_fC9C10, ENTIER},
+};
+static_assert(lignesJustes<examiner(tErti, CORPS, USAGES_ERTI)>());
 
 }  // namespace quilvane

@@ -1,19 +1,28 @@
 /**
  * EXP1 - export of a holding. A creation must be followed by its EXP2.
  */
+#include <iterator>
+
+#include "checks/coherence.h"
+#include "checks/conformite.h"
 #include "checks/lecture.h"
-#include "checks/utils.h"
-#include "messages/messages.h"
+#include "checks/listes.h"
+#include "checks/reference.h"
+#include "checks/valautorise.h"
+#include "messages/aiguillage.h"
+#include "rules/preuve.h"
+#include "vocabulaire/regle.h"
+#include "vocabulaire/store.h"
 
 namespace quilvane {
 
+/** Legal form (4): blank, "****" for one emptied, or in the list. Error 32. */
 int fexp1_C4(const char*, char* champ, const liste& sverif) {
     return egal(champ, quatreBlancs[0].valeur) || egal(champ, ET4[0].valeur) || dansListe(champ, sverif);
 }
 
 // clang-format off
-constexpr int lExp1 = 15;
-constexpr sCorps tExp1[lExp1] = {
+constexpr sCorps tExp1[] = {
     //field  first  last  CRE  DEM  INV  EDI  MOD check           list           dependency  error
     {C1,       63,   64,   0,   2,   0,   2,   0, fVerifValAut,   &FR,           aucune,       31},
     {C2,       65,   76,   0,   2,   0,   2,   0, fVerifDiffNull, &DouzeBlancs,  aucune,       31},
@@ -31,6 +40,13 @@ constexpr sCorps tExp1[lExp1] = {
     {C11,     222,  223,   0,   2,   1,   2,   0, fVerifValAut,   &TTE,          aucune,       35},
     {C12,     224,  230,   1,   1,   1,   1,   1, nullptr,        &sansListe,    aucune,        0},
 };
+constexpr int lExp1 = static_cast<int>(std::size(tExp1));
 // clang-format on
+
+/** What its own checks do with the list of their row. */
+constexpr usageDeListe USAGES_EXP1[] = {
+    {fexp1_C4, ENTIER},
+};
+static_assert(lignesJustes<examiner(tExp1, CORPS, USAGES_EXP1)>());
 
 }  // namespace quilvane

@@ -1,14 +1,23 @@
 /**
  * EXP2 - export, keeper; the companion of EXP1.
  */
-#include "checks/utils.h"
-#include "messages/messages.h"
+#include <iterator>
+
+#include "checks/coherence.h"
+#include "checks/conformite.h"
+#include "checks/dates.h"
+#include "checks/identifiants.h"
+#include "checks/listes.h"
+#include "checks/valautorise.h"
+#include "messages/aiguillage.h"
+#include "rules/preuve.h"
+#include "vocabulaire/regle.h"
+#include "vocabulaire/store.h"
 
 namespace quilvane {
 
 // clang-format off
-constexpr int lExp2 = 23;
-constexpr sCorps tExp2[lExp2] = {
+constexpr sCorps tExp2[] = {
     //field  first  last  CRE  DEM  INV  EDI  MOD check           list          dependency  error
     {C1,       63,   64,   0,   2,   0,   2,   0, fVerifValAut,   &FR,          aucune,       31},
     {C2,       65,   76,   0,   2,   0,   2,   0, fVerifDiffNull, &DouzeBlancs, aucune,       31},
@@ -34,6 +43,8 @@ constexpr sCorps tExp2[lExp2] = {
     {C16,       0,    0,   1,   2,   0,   2,   0, fCoherenDC,     &sansListe,   fin(F1),      52},
     {C17,     157,  230,   1,   1,   1,   1,   1, nullptr,        &sansListe,   aucune,        0},
 };
+constexpr int lExp2 = static_cast<int>(std::size(tExp2));
 // clang-format on
+static_assert(lignesJustes<examiner(tExp2, CORPS)>());
 
 }  // namespace quilvane

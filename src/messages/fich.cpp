@@ -2,13 +2,16 @@
  * FICH - the file record, first of every file. Its rows only cut the body into
  * fields, which record processing keeps for the whole run.
  */
-#include "messages/messages.h"
+#include <iterator>
+
+#include "messages/aiguillage.h"
+#include "rules/preuve.h"
+#include "vocabulaire/regle.h"
 
 namespace quilvane {
 
 // clang-format off
-constexpr int lFich = 9;
-constexpr sCorps tFich[lFich] = {
+constexpr sCorps tFich[] = {
     //field first last CRE DEM INV EDI MOD check    list        dependency  error
     {C1,     63,   78,  1,  1,  1,  1,  1, nullptr, &sansListe, aucune,        0},
     {C2,     79,   94,  1,  1,  1,  1,  1, nullptr, &sansListe, aucune,        0},
@@ -20,6 +23,8 @@ constexpr sCorps tFich[lFich] = {
     {C8,    125,  125,  1,  1,  1,  1,  1, nullptr, &sansListe, aucune,        0},
     {C9,    126,  230,  1,  1,  1,  1,  1, nullptr, &sansListe, aucune,        0},
 };
+constexpr int lFich = static_cast<int>(std::size(tFich));
 // clang-format on
+static_assert(lignesJustes<examiner(tFich, CORPS)>());
 
 }  // namespace quilvane

@@ -1,9 +1,18 @@
 /**
  * GROC - tag order for ovines and caprines.
  */
+#include <iterator>
+
+#include "checks/coherence.h"
+#include "checks/conformite.h"
+#include "checks/dates.h"
 #include "checks/lecture.h"
-#include "checks/utils.h"
-#include "messages/messages.h"
+#include "checks/listes.h"
+#include "checks/valautorise.h"
+#include "messages/aiguillage.h"
+#include "rules/preuve.h"
+#include "vocabulaire/regle.h"
+#include "vocabulaire/store.h"
 
 namespace quilvane {
 
@@ -13,6 +22,8 @@ bool dateBlanche(const char* date) { return egal(date, HuitBlancs[0].valeur); }
 
 }  // namespace
 
+/** Second date: blank, or complete; blank, or not after the dependency.
+ *  Errors 102 and 52. */
 int groc_cre_C10_1(const char* dependance, char* champ, const liste& sverif) {
     return dateBlanche(champ) || fDATEC(dependance, champ, sverif);
 }
@@ -21,13 +32,14 @@ int groc_cre_C10_2(const char* dependance, char* champ, const liste& sverif) {
     return dateBlanche(champ) || fCoherenDC(dependance, champ, sverif);
 }
 
+/** A time (HHMMSS) with the date in the dependency, six blanks without it.
+ *  Error 103. */
 int groc_cre_C12(const char* dependance, char* champ, const liste& sverif) {
     return dateBlanche(dependance) ? vaut(champ, "      ") : fHEUREC(dependance, champ, sverif);
 }
 
 // clang-format off
-constexpr int lGroc = 26;
-constexpr sCorps tGroc[lGroc] = {
+constexpr sCorps tGroc[] = {
     //field  first  last  CRE  DEM  INV  EDI  MOD check                  list          dependency  error
     {C1,       63,   64,   0,   0,   2,   2,   2, fVerifValAut,          &TECH,        aucune,        1},
     {C2,       65,   76,   0,   0,   2,   2,   2, fVerifDiffNull,        &DouzeBlancs, aucune,        1},
@@ -56,6 +68,8 @@ constexpr sCorps tGroc[lGroc] = {
     {C12,       0,    0,   1,   1,   2,   2,   2, fHEUREC,               &sansListe,   aucune,      103},
     {C13,     128,  230,   1,   1,   1,   1,   1, nullptr,               &sansListe,   aucune,        0},
 };
+constexpr int lGroc = static_cast<int>(std::size(tGroc));
 // clang-format on
+static_assert(lignesJustes<examiner(tGroc, CORPS)>());
 
 }  // namespace quilvane

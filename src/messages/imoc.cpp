@@ -1,14 +1,22 @@
 /**
  * IMOC - ovine or caprine mark of a holding.
  */
-#include "checks/utils.h"
-#include "messages/messages.h"
+#include <iterator>
+
+#include "checks/coherence.h"
+#include "checks/conformite.h"
+#include "checks/dates.h"
+#include "checks/listes.h"
+#include "checks/valautorise.h"
+#include "messages/aiguillage.h"
+#include "rules/preuve.h"
+#include "vocabulaire/regle.h"
+#include "vocabulaire/store.h"
 
 namespace quilvane {
 
 // clang-format off
-constexpr int lImoc = 13;
-constexpr sCorps tImoc[lImoc] = {
+constexpr sCorps tImoc[] = {
     //field  first  last  CRE  DEM  INV  EDI  MOD check              list          dependency  error
     {C1,       63,   64,   0,   2,   0,   2,   2, fVerifValAut,      &FR,          aucune,      159},
     {C2,       65,   76,   0,   2,   0,   2,   2, fVerifDiffNull,    &DouzeBlancs, aucune,      160},
@@ -24,6 +32,8 @@ constexpr sCorps tImoc[lImoc] = {
     {C7,        0,    0,   0,   2,   1,   2,   2, fCoherenDC,        &sansListe,   fin(F1),      52},
     {C8,      102,  230,   1,   1,   1,   1,   1, nullptr,           &sansListe,   aucune,        0},
 };
+constexpr int lImoc = static_cast<int>(std::size(tImoc));
 // clang-format on
+static_assert(lignesJustes<examiner(tImoc, CORPS)>());
 
 }  // namespace quilvane

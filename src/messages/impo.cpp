@@ -1,9 +1,19 @@
 /**
  * IMPO - import.
  */
+#include <iterator>
+
+#include "checks/coherence.h"
+#include "checks/conformite.h"
+#include "checks/dates.h"
 #include "checks/lecture.h"
-#include "checks/utils.h"
-#include "messages/messages.h"
+#include "checks/listes.h"
+#include "checks/reference.h"
+#include "checks/valautorise.h"
+#include "messages/aiguillage.h"
+#include "rules/preuve.h"
+#include "vocabulaire/regle.h"
+#include "vocabulaire/store.h"
 
 namespace quilvane {
 
@@ -14,25 +24,29 @@ bool dateOuverte(const char* date) { return dansListeStricte(date, HuitBlancsFal
 
 }  // namespace
 
+/** Number (12): French form, columns 7 to 10 not "0000". Error 118. */
 int impo_C2(const char* dependance, char* champ, const liste& sverif) {
-    return fConform10(dependance, champ, sverif) && fVerifDiffZero(champ, 7, 10);
+    return fConform10NonNul(dependance, champ, sverif);
 }
 
+/** Birth date: eight blanks or asterisks, or possibly incomplete. Error 5. */
 int impo_C6_1(const char* dependance, char* champ, const liste& sverif) {
     return dateOuverte(champ) || fDATEI(dependance, champ, sverif);
 }
 
+/** Birth date: eight blanks or asterisks, or not after the dependency. Error 52. */
 int impo_C6_2(const char* dependance, char* champ, const liste& sverif) {
     return dateOuverte(champ) || fCoherenDC(dependance, champ, sverif);
 }
 
+/** Four columns not blank. Error 10. */
 int impo_C7(const char*, char* champ, const liste&) { return !blancs(champ, 1, 4); }
 
+/** A foreign country (2) of `TP`. Error 49. */
 int impo_C20(const char*, char* champ, const liste&) { return !vaut(champ, "FR") && dansListe(champ, TP); }
 
 // clang-format off
-constexpr int lImpo = 36;
-constexpr sCorps tImpo[lImpo] = {
+constexpr sCorps tImpo[] = {
     //field  first  last  CRE  DEM  INV  EDI  MOD check               list             dependency  error
     {C1,       63,   64,   0,   2,   0,   2,   0, fVerifValAut,       &FR,             aucune,        1},
     {C2,       65,   76,   0,   2,   0,   2,   0, fVerifDiffNull,     &DouzeBlancs,    aucune,        1},
@@ -71,6 +85,16 @@ constexpr sCorps tImpo[lImpo] = {
     {C24,       0,    0,   0,   2,   1,   2,   1, fDatRecPost,        &sansListe,      corps(C6),   137},
     {C25,     191,  230,   1,   1,   1,   1,   1, nullptr,            &sansListe,      aucune,        0},
 };
+constexpr int lImpo = static_cast<int>(std::size(tImpo));
 // clang-format on
+
+/** What its own checks do with the list of their row. */
+constexpr usageDeListe USAGES_IMPO[] = {
+    {impo_C2, DEUX_COLONNES},
+    {impo_C6_1, ENTIER},
+    {impo_C6_2, ENTIER},
+    {impo_C20, ENTIER},
+};
+static_assert(lignesJustes<examiner(tImpo, CORPS, USAGES_IMPO)>());
 
 }  // namespace quilvane

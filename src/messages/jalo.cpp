@@ -1,14 +1,22 @@
 /**
  * JALO - request for marking.
  */
-#include "checks/utils.h"
-#include "messages/messages.h"
+#include <iterator>
+
+#include "checks/coherence.h"
+#include "checks/conformite.h"
+#include "checks/dates.h"
+#include "checks/listes.h"
+#include "checks/valautorise.h"
+#include "messages/aiguillage.h"
+#include "rules/preuve.h"
+#include "vocabulaire/regle.h"
+#include "vocabulaire/store.h"
 
 namespace quilvane {
 
 // clang-format off
-constexpr int lJalo = 17;
-constexpr sCorps tJalo[lJalo] = {
+constexpr sCorps tJalo[] = {
     //field  first  last  CRE  DEM  INV  EDI  MOD check                   list             dependency  error
     {C1,       63,   64,   0,   2,   2,   2,   2, fVerifValAut,           &TP,             aucune,        1},
     {C2,       65,   76,   0,   2,   2,   2,   2, fVerifDiffNull,         &DouzeBlancs,    aucune,        1},
@@ -28,6 +36,8 @@ constexpr sCorps tJalo[lJalo] = {
     {C10,     222,  222,   0,   2,   2,   2,   2, fVerifValAut,           &DEROUL_MARC,    aucune,      119},
     {C11,     223,  230,   1,   1,   1,   1,   1, nullptr,                &sansListe,      aucune,        0},
 };
+constexpr int lJalo = static_cast<int>(std::size(tJalo));
 // clang-format on
+static_assert(lignesJustes<examiner(tJalo, CORPS)>());
 
 }  // namespace quilvane

@@ -1,7 +1,11 @@
 #include "messages/mouvement.h"
 
+#include "checks/conformite.h"
 #include "checks/lecture.h"
-#include "checks/utils.h"
+#include "checks/listes.h"
+#include "checks/reference.h"
+#include "checks/valautorise.h"
+#include "vocabulaire/store.h"
 
 namespace quilvane::mouvement {
 

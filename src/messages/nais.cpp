@@ -2,9 +2,19 @@
  * NAIS - birth. Columns 151 to 158 are not cut (C18 to C23 have no
  * row), so from C24 on a field's slot is its position, not its number.
  */
+#include <iterator>
+
+#include "checks/coherence.h"
+#include "checks/conformite.h"
+#include "checks/dates.h"
 #include "checks/lecture.h"
-#include "checks/utils.h"
-#include "messages/messages.h"
+#include "checks/listes.h"
+#include "checks/reference.h"
+#include "checks/valautorise.h"
+#include "messages/aiguillage.h"
+#include "rules/preuve.h"
+#include "vocabulaire/regle.h"
+#include "vocabulaire/store.h"
 
 namespace quilvane {
 
@@ -14,14 +24,19 @@ bool avant(const char* naissance, const liste& reference) { return !fVTABP(naiss
 
 }  // namespace
 
+/** Number (12): French form, columns 7 to 10 not "0000". Error 67. */
 int nais_C2(const char* dependance, char* champ, const liste& sverif) {
-    return fConform10(dependance, champ, sverif) && fVerifDiffZero(champ, 7, 10);
+    return fConform10NonNul(dependance, champ, sverif);
 }
 
+/** Four columns not blank. Error 10. */
 int nais_C7(const char*, char* champ, const liste&) { return !blancs(champ, 1, 4); }
 
 // For a birth before P5 only the second of the three accepts a blank number:
 // the other two compare it with two blanks, which twelve columns never equal.
+/** Number of the second animal, birth date in the dependency: `fConform10FR`,
+ *  `fConform10FRnonECHAnon`, `fConform10FRnonECHAoui` by country. Only the
+ *  second accepts a blank number before `P5`. Errors 67, 118 and 6. */
 int nais_C11(const char* dependance, char* champ, const liste& sverif) {
     if (avant(dependance, P5) && egal(champ, deuxBlancs[0].valeur)) return 1;
     return fConform10FR(corps(C10), champ, sverif);
@@ -37,14 +52,15 @@ int nais_C11FRnonUEoui(const char* dependance, char* champ, const liste& sverif)
     return fConform10FRnonECHAoui(corps(C10), champ, sverif);
 }
 
+/** Holding (12), birth date in the dependency: blank before `P6`, or French
+ *  form. Error 68. */
 int nais_C17(const char* dependance, char* champ, const liste& sverif) {
     if (avant(dependance, P6) && egal(champ, DouzeBlancs[0].valeur)) return 1;
     return fConform8(dependance, champ, sverif);
 }
 
 // clang-format off
-constexpr int lNais = 50;
-constexpr sCorps tNais[lNais] = {
+constexpr sCorps tNais[] = {
     //field  first  last  CRE  DEM  INV  EDI  MOD check                   list          dependency  error
     {C1,       63,   64,   0,   1,   0,   2,   0, fVerifValAut,           &FR,          aucune,        1},
     {C1,        0,    0,   1,   0,   1,   2,   1, fVerifValAut,           &TP,          aucune,        1},
@@ -97,6 +113,16 @@ constexpr sCorps tNais[lNais] = {
     {C26,       0,    0,   0,   1,   1,   2,   1, fDatRecPost,            &sansListe,   corps(C6),   137},
     {C27,     169,  230,   1,   1,   1,   1,   1, nullptr,                &sansListe,   aucune,        0},
 };
+constexpr int lNais = static_cast<int>(std::size(tNais));
 // clang-format on
+
+/** What its own checks do with the list of their row. */
+constexpr usageDeListe USAGES_NAIS[] = {
+    {nais_C2, DEUX_COLONNES},
+    {nais_C11, DEUX_COLONNES},
+    {nais_C11FRnonUEnon, DEUX_COLONNES},
+    {nais_C17, DEUX_COLONNES},
+};
+static_assert(lignesJustes<examiner(tNais, CORPS, USAGES_NAIS)>());
 
 }  // namespace quilvane

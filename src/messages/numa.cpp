@@ -1,27 +1,40 @@
 /**
  * NUMA - range of animal numbers given to a holding.
  */
+#include <iterator>
+
+#include "checks/coherence.h"
+#include "checks/conformite.h"
+#include "checks/dates.h"
 #include "checks/lecture.h"
-#include "checks/utils.h"
-#include "messages/messages.h"
+#include "checks/listes.h"
+#include "checks/reference.h"
+#include "checks/valautorise.h"
+#include "messages/aiguillage.h"
+#include "rules/preuve.h"
+#include "vocabulaire/regle.h"
+#include "vocabulaire/store.h"
 
 namespace quilvane {
 
+/** Count: six digits, not zero. Error 48. */
 int numa_fC6_1(const char*, char* champ, const liste&) { return chiffres(champ, 1, 6) && nombre(champ) != 0; }
 
+/** Count: 1 to 1000. Error 177. */
 int numa_fC6_2(const char*, char* champ, const liste&) {
     const long long compte = nombre(champ);
     return compte >= 1 && compte <= 1000;
 }
 
+/** First number of the range (dependency, from column 3) plus count: at most
+ *  100000000. Error 179. */
 int numa_fC6_3(const char* dependance, char* champ, const liste&) {
     // Behind its department a number has eight digits.
     return nombreDepuis(dependance, 3) + nombre(champ) <= 100'000'000;
 }
 
 // clang-format off
-constexpr int lNuma = 26;
-constexpr sCorps tNuma[lNuma] = {
+constexpr sCorps tNuma[] = {
     //field  first  last  CRE  DEM  INV  EDI  MOD check               list          dependency  error
     {C1,       63,   64,   0,   2,   2,   2,   0, fVerifValAut,       &FR,          aucune,       27},
     {C2,       65,   76,   0,   2,   2,   2,   0, fVerifDiffNull,     &DouzeBlancs, aucune,       27},
@@ -50,6 +63,8 @@ constexpr sCorps tNuma[lNuma] = {
     {C10,       0,    0,   0,   2,   2,   2,   0, fConform_BV_model5, &sansListe,   aucune,      157},
     {C11,     124,  230,   1,   1,   1,   1,   1, nullptr,            &sansListe,   aucune,        0},
 };
+constexpr int lNuma = static_cast<int>(std::size(tNuma));
 // clang-format on
+static_assert(lignesJustes<examiner(tNuma, CORPS)>());
 
 }  // namespace quilvane

@@ -2,18 +2,28 @@
  * NVMN - birth in its short form: the layout of NAIS up to column 150,
  * then the receipt date.
  */
-#include "checks/utils.h"
-#include "messages/messages.h"
+#include <iterator>
+
+#include "checks/coherence.h"
+#include "checks/conformite.h"
+#include "checks/dates.h"
+#include "checks/listes.h"
+#include "checks/reference.h"
+#include "checks/valautorise.h"
+#include "messages/aiguillage.h"
+#include "rules/preuve.h"
+#include "vocabulaire/regle.h"
+#include "vocabulaire/store.h"
 
 namespace quilvane {
 
+/** Number (12): French form, columns 7 to 10 not "0000". Error 67. */
 int nvmn_C2(const char* dependance, char* champ, const liste& sverif) {
-    return nais_C2(dependance, champ, sverif);
+    return fConform10NonNul(dependance, champ, sverif);
 }
 
 // clang-format off
-constexpr int lNvmn = 31;
-constexpr sCorps tNvmn[lNvmn] = {
+constexpr sCorps tNvmn[] = {
     //field  first  last  CRE  DEM  INV  EDI  MOD check                   list          dependency  error
     {C1,       63,   64,   0,   2,   0,   2,   0, fVerifValAut,           &FR,          aucune,        1},
     {C2,       65,   76,   0,   2,   0,   2,   0, fVerifDiffNull,         &DouzeBlancs, aucune,        1},
@@ -47,6 +57,13 @@ constexpr sCorps tNvmn[lNvmn] = {
     {C18,       0,    0,   0,   2,   1,   2,   1, fDatRecPost,            &sansListe,   corps(C6),   137},
     {C19,     159,  230,   1,   1,   1,   1,   1, nullptr,                &sansListe,   aucune,        0},
 };
+constexpr int lNvmn = static_cast<int>(std::size(tNvmn));
 // clang-format on
+
+/** What its own checks do with the list of their row. */
+constexpr usageDeListe USAGES_NVMN[] = {
+    {nvmn_C2, DEUX_COLONNES},
+};
+static_assert(lignesJustes<examiner(tNvmn, CORPS, USAGES_NVMN)>());
 
 }  // namespace quilvane

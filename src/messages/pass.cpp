@@ -1,9 +1,18 @@
 /**
  * PASS - passport.
  */
+#include <iterator>
+
+#include "checks/coherence.h"
+#include "checks/conformite.h"
+#include "checks/dates.h"
 #include "checks/lecture.h"
-#include "checks/utils.h"
-#include "messages/messages.h"
+#include "checks/listes.h"
+#include "checks/valautorise.h"
+#include "messages/aiguillage.h"
+#include "rules/preuve.h"
+#include "vocabulaire/regle.h"
+#include "vocabulaire/store.h"
 
 namespace quilvane {
 
@@ -13,17 +22,18 @@ bool exige(const char* drapeau) { return drapeau[0] == '0'; }
 
 }  // namespace
 
+/** Date, error 102. */
 int pass_C7(const char* dependance, char* champ, const liste& sverif) {
     return !exige(dependance) || fDATEC(dependance, champ, sverif);
 }
 
+/** Time, error 103. */
 int pass_C10(const char* dependance, char* champ, const liste& sverif) {
     return !exige(dependance) || fHEUREC(dependance, champ, sverif);
 }
 
 // clang-format off
-constexpr int lPass = 20;
-constexpr sCorps tPass[lPass] = {
+constexpr sCorps tPass[] = {
     //field  first  last  CRE  DEM  INV  EDI  MOD check                   list          dependency  error
     {C1,       63,   64,   2,   0,   0,   0,   2, fVerifValAut,           &TP,          aucune,        1},
     {C2,       65,   76,   2,   0,   0,   0,   2, fVerifDiffNull,         &DouzeBlancs, aucune,        1},
@@ -46,6 +56,8 @@ constexpr sCorps tPass[lPass] = {
     {C11,     119,  119,   2,   1,   1,   0,   2, fVerifValAut,           &BOOL,        aucune,      104},
     {C12,     120,  230,   1,   1,   1,   1,   1, nullptr,                &sansListe,   aucune,        0},
 };
+constexpr int lPass = static_cast<int>(std::size(tPass));
 // clang-format on
+static_assert(lignesJustes<examiner(tPass, CORPS)>());
 
 }  // namespace quilvane

@@ -1,19 +1,31 @@
 /**
  * PICO - range of tag numbers for ovines and caprines.
  */
+#include <iterator>
+
+#include "checks/coherence.h"
+#include "checks/conformite.h"
+#include "checks/dates.h"
 #include "checks/lecture.h"
-#include "checks/utils.h"
-#include "messages/messages.h"
+#include "checks/listes.h"
+#include "checks/valautorise.h"
+#include "messages/aiguillage.h"
+#include "rules/preuve.h"
+#include "vocabulaire/regle.h"
+#include "vocabulaire/store.h"
 
 namespace quilvane {
 
+/** Count: six digits, not zero. Error 48. */
 int pico_fC6_1(const char*, char* champ, const liste&) { return chiffres(champ, 1, 6) && nombre(champ) != 0; }
 
+/** Count: 1 to 10000. Error 178. */
 int pico_fC6_2(const char*, char* champ, const liste&) {
     const long long compte = nombre(champ);
     return compte >= 1 && compte <= 10'000;
 }
 
+/** First number of the range (dependency) plus count within the series. Error 180. */
 int pico_fC6_3(const char* dependance, char* champ, const liste&) {
     const bool lettree = vaut(corps(C9), "PR") || vaut(corps(C9), "PC");
     // A letter in column 7 leaves four digits behind it, else there are five.
@@ -22,8 +34,7 @@ int pico_fC6_3(const char* dependance, char* champ, const liste&) {
 }
 
 // clang-format off
-constexpr int lPico = 23;
-constexpr sCorps tPico[lPico] = {
+constexpr sCorps tPico[] = {
     //field  first  last  CRE  DEM  INV  EDI  MOD check                 list          dependency  error
     {C1,       63,   64,   0,   2,   2,   2,   2, fVerifValAut,         &FR,          aucune,       27},
     {C2,       65,   76,   0,   2,   2,   2,   2, fVerifDiffNull,       &DouzeBlancs, aucune,       27},
@@ -49,6 +60,8 @@ constexpr sCorps tPico[lPico] = {
     {C11,     119,  119,   0,   2,   2,   2,   2, fConform_OC_compteur, &sansListe,   corps(C8),   158},
     {C12,     120,  230,   1,   1,   1,   1,   1, nullptr,              &sansListe,   aucune,        0},
 };
+constexpr int lPico = static_cast<int>(std::size(tPico));
 // clang-format on
+static_assert(lignesJustes<examiner(tPico, CORPS)>());
 
 }  // namespace quilvane

@@ -1,17 +1,26 @@
 /**
  * RACO - yearly census of a holding.
  */
+#include <iterator>
+
+#include "checks/coherence.h"
+#include "checks/conformite.h"
+#include "checks/dates.h"
 #include "checks/lecture.h"
-#include "checks/utils.h"
-#include "messages/messages.h"
+#include "checks/listes.h"
+#include "checks/valautorise.h"
+#include "messages/aiguillage.h"
+#include "rules/preuve.h"
+#include "vocabulaire/regle.h"
+#include "vocabulaire/store.h"
 
 namespace quilvane {
 
+/** Six digits. Error 170. */
 int raco_fC6(const char*, char* champ, const liste&) { return chiffres(champ, 1, 6); }
 
 // clang-format off
-constexpr int lRaco = 13;
-constexpr sCorps tRaco[lRaco] = {
+constexpr sCorps tRaco[] = {
     //field  first  last  CRE  DEM  INV  EDI  MOD check              list          dependency  error
     {C1,       63,   64,   0,   2,   0,   2,   0, fVerifValAut,      &FR,          aucune,       27},
     {C2,       65,   76,   0,   2,   0,   2,   0, fVerifDiffNull,    &DouzeBlancs, aucune,       27},
@@ -27,6 +36,8 @@ constexpr sCorps tRaco[lRaco] = {
     {C7,        0,    0,   0,   2,   1,   2,   1, fDatRec_OC_Post,   &sansListe,   corps(C4),   137},
     {C8,      103,  230,   1,   1,   1,   1,   1, nullptr,           &sansListe,   aucune,        0},
 };
+constexpr int lRaco = static_cast<int>(std::size(tRaco));
 // clang-format on
+static_assert(lignesJustes<examiner(tRaco, CORPS)>());
 
 }  // namespace quilvane

@@ -1,14 +1,23 @@
 /**
  * RATA - ties a site to its holdings; the companion of EGET.
  */
-#include "checks/utils.h"
-#include "messages/messages.h"
+#include <iterator>
+
+#include "checks/coherence.h"
+#include "checks/conformite.h"
+#include "checks/dates.h"
+#include "checks/identifiants.h"
+#include "checks/listes.h"
+#include "checks/valautorise.h"
+#include "messages/aiguillage.h"
+#include "rules/preuve.h"
+#include "vocabulaire/regle.h"
+#include "vocabulaire/store.h"
 
 namespace quilvane {
 
 // clang-format off
-constexpr int lRata = 17;
-constexpr sCorps tRata[lRata] = {
+constexpr sCorps tRata[] = {
     //field  first  last  CRE  DEM  INV  EDI  MOD check           list          dependency  error
     {C1,       63,   64,   0,   2,   1,   2,   0, fVerifValAut,   &FR,          aucune,      139},
     {C2,       65,   76,   0,   2,   1,   2,   0, fVerifDiffNull, &DouzeBlancs, aucune,      139},
@@ -28,6 +37,8 @@ constexpr sCorps tRata[lRata] = {
     {C10,       0,    0,   1,   2,   1,   2,   0, fCoherenDC,     &sansListe,   fin(F1),      52},
     {C11,     124,  230,   1,   1,   1,   1,   1, nullptr,        &sansListe,   aucune,        0},
 };
+constexpr int lRata = static_cast<int>(std::size(tRata));
 // clang-format on
+static_assert(lignesJustes<examiner(tRata, CORPS)>());
 
 }  // namespace quilvane

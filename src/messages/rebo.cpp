@@ -3,14 +3,23 @@
  * and are not cut, so from C23 on a field's slot is its position, not its
  * number.
  */
-#include "checks/utils.h"
-#include "messages/messages.h"
+#include <iterator>
+
+#include "checks/coherence.h"
+#include "checks/conformite.h"
+#include "checks/dates.h"
+#include "checks/listes.h"
+#include "checks/reference.h"
+#include "checks/valautorise.h"
+#include "messages/aiguillage.h"
+#include "rules/preuve.h"
+#include "vocabulaire/regle.h"
+#include "vocabulaire/store.h"
 
 namespace quilvane {
 
 // clang-format off
-constexpr int lRebo = 22;
-constexpr sCorps tRebo[lRebo] = {
+constexpr sCorps tRebo[] = {
     //field  first  last  CRE  DEM  INV  EDI  MOD check                   list          dependency  error
     {C1,       63,   64,   0,   2,   0,   2,   0, fVerifValAut,           &TP,          aucune,        1},
     {C2,       65,   76,   0,   2,   0,   2,   0, fVerifDiffNull,         &DouzeBlancs, aucune,        1},
@@ -35,6 +44,8 @@ constexpr sCorps tRebo[lRebo] = {
     {C25,       0,    0,   1,   2,   1,   2,   0, fConform_temoin_bouc2,  &sansListe,   aucune,      191},
     {C26,     229,  230,   1,   1,   1,   1,   1, nullptr,                &sansListe,   aucune,        0},
 };
+constexpr int lRebo = static_cast<int>(std::size(tRebo));
 // clang-format on
+static_assert(lignesJustes<examiner(tRebo, CORPS)>());
 
 }  // namespace quilvane

@@ -2,9 +2,18 @@
  * SORT - exit of an animal from a holding. The receipt date stands in
  * columns 184-191, one column earlier than in ENTR.
  */
-#include "checks/utils.h"
-#include "messages/messages.h"
+#include <iterator>
+
+#include "checks/coherence.h"
+#include "checks/conformite.h"
+#include "checks/dates.h"
+#include "checks/listes.h"
+#include "checks/valautorise.h"
+#include "messages/aiguillage.h"
 #include "messages/mouvement.h"
+#include "rules/preuve.h"
+#include "vocabulaire/regle.h"
+#include "vocabulaire/store.h"
 
 namespace quilvane {
 
@@ -16,16 +25,23 @@ constexpr mouvement::causes LETTRES = {"ST", "STM", ""};
 
 }  // namespace
 
+/** Causes F, G, S and T on creation only; the dependency is the transaction
+ *  kind. Error 23. */
 int sort_fC5(const char* dependance, char*, const liste&) { return mouvement::causeSelonGenre(dependance); }
 
+/** Country (2) of the other holding on creation: of `TP`, or blank unless the
+ *  cause (F, G / S, T) requires it. Error 24. */
 int sort_fC8_cre(const char*, char* champ, const liste&) {
     return mouvement::pays(LETTRES, champ, mouvement::STRICT);
 }
 
+/** The same on modification; before `P8` it may be missing. Error 24. */
 int sort_fC8_mod(const char*, char* champ, const liste&) {
     return mouvement::pays(LETTRES, champ, mouvement::TOLERE_AVANT_P8);
 }
 
+/** Number (12) of the other holding on creation: given with its country; may
+ *  be missing for the causes F, G / S, T, M. Error 24. */
 int sort_fC9_1_cre(const char*, char* champ, const liste&) {
     return mouvement::numeroPresent(LETTRES, champ, mouvement::STRICT);
 }
@@ -34,21 +50,25 @@ int sort_fC9_1_mod(const char*, char* champ, const liste&) {
     return mouvement::numeroPresent(LETTRES, champ, mouvement::TOLERE_AVANT_P8);
 }
 
+/** Number of the other holding: blank, or of French form if its country (C8)
+ *  is "FR". Error 68. */
 int sort_fC9_2_cre(const char*, char* champ, const liste&) { return mouvement::numeroConforme(champ); }
 
 int sort_fC9_2_mod(const char*, char* champ, const liste&) { return mouvement::numeroConforme(champ); }
 
+/** The other party in words (60) when it has no number; ENTR's cause N needs
+ *  neither. Error 24. */
 int sort_fC10_cre(const char*, char* champ, const liste&) {
     return mouvement::texte(LETTRES, champ, mouvement::STRICT);
 }
 
+/** The same on modification; before `P8` both may be missing. Error 24. */
 int sort_fC10_mod(const char*, char* champ, const liste&) {
     return mouvement::texte(LETTRES, champ, mouvement::TOLERE_AVANT_P8);
 }
 
 // clang-format off
-constexpr int lSort = 29;
-constexpr sCorps tSort[lSort] = {
+constexpr sCorps tSort[] = {
     //field  first  last  CRE  DEM  INV  EDI  MOD check                   list          dependency  error
     {C1,       63,   64,   0,   2,   0,   2,   0, fVerifValAut,           &TP,          aucune,        1},
     {C2,       65,   76,   0,   2,   0,   2,   0, fVerifDiffNull,         &DouzeBlancs, aucune,        1},
@@ -80,6 +100,13 @@ constexpr sCorps tSort[lSort] = {
     {C12,       0,    0,   0,   2,   1,   2,   1, fDatRecPost_tr,         &sansListe,   corps(C4),   137},
     {C13,     192,  230,   1,   1,   1,   1,   1, nullptr,                &sansListe,   aucune,        0},
 };
+constexpr int lSort = static_cast<int>(std::size(tSort));
 // clang-format on
+
+/** What its own checks do with the list of their row. */
+constexpr usageDeListe USAGES_SORT[] = {
+    {sort_fC5, NON_LUE},
+};
+static_assert(lignesJustes<examiner(tSort, CORPS, USAGES_SORT)>());
 
 }  // namespace quilvane

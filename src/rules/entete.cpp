@@ -1,7 +1,14 @@
 #include "rules/entete.h"
 
+#include <iterator>
+
+#include "checks/dates.h"
 #include "checks/lecture.h"
-#include "checks/utils.h"
+#include "checks/listes.h"
+#include "checks/valautorise.h"
+#include "rules/preuve.h"
+#include "vocabulaire/regle.h"
+#include "vocabulaire/store.h"
 
 namespace quilvane {
 
@@ -77,8 +84,7 @@ int fVerifDepE6(const char* dependance, char* champ, const liste&) {
 // The presence codes of these tables are never consulted: the engine applies
 // them without a transaction kind, so that every row with a check runs.
 // clang-format off
-constexpr int lEntete = 14;
-constexpr sCorps tEntete[lEntete] = {
+constexpr sCorps tEntete[] = {
     //field first last CRE DEM INV EDI MOD check         list         dependency  error
     {E1,      1,    1,  1,  1,  1,  1,  1, nullptr,      &sansListe,  aucune,        0},
     {E2,      2,    2,  1,  1,  1,  1,  1, nullptr,      &sansListe,  aucune,        0},
@@ -95,9 +101,9 @@ constexpr sCorps tEntete[lEntete] = {
     {E12,    61,   61,  1,  1,  1,  1,  1, enteteE12,    &TOUQ,       entete(E6),   97},
     {E13,    62,   62,  1,  1,  1,  1,  1, enteteE13,    &NOUU,       entete(E6),   98},
 };
+constexpr int lEntete = static_cast<int>(std::size(tEntete));
 
-constexpr int lFin = 6;
-constexpr sCorps tFin[lFin] = {
+constexpr sCorps tFin[] = {
     //field first last CRE DEM INV EDI MOD check         list         dependency  error
     {F1,    231,  238,  1,  1,  1,  1,  1, fDATEC,       &sansListe,  aucune,       90},
     {F2,    239,  244,  1,  1,  1,  1,  1, fHEUREC,      &sansListe,  aucune,       91},
@@ -106,6 +112,21 @@ constexpr sCorps tFin[lFin] = {
     {F4,    248,  255,  1,  1,  1,  1,  1, nullptr,      &sansListe,  aucune,        0},
     {F5,    256,  256,  1,  1,  1,  1,  1, fVerifValAut, &ET1,        aucune,       94},
 };
+constexpr int lFin = static_cast<int>(std::size(tFin));
 // clang-format on
+
+/** What its own checks do with the list of their row. */
+constexpr usageDeListe USAGES_ENTETE[] = {
+    {enteteE3, ENTIER},
+    {enteteE4, ENTIER},
+    {enteteE8, ENTIER},
+    {enteteE9, NON_LUE},
+    {enteteE10, ENTIER},
+    {enteteE12, ENTIER},
+    {enteteE13, ENTIER},
+    {finF3, ENTIER},
+};
+static_assert(lignesJustes<examiner(tEntete, ENTETE, USAGES_ENTETE)>());
+static_assert(lignesJustes<examiner(tFin, FIN, USAGES_ENTETE)>());
 
 }  // namespace quilvane

@@ -4,7 +4,8 @@
 #ifndef QUILVANE_RULES_MOTEUR_H
 #define QUILVANE_RULES_MOTEUR_H
 
-#include "rules/pack.h"
+#include "vocabulaire/regle.h"
+#include "vocabulaire/store.h"
 
 namespace quilvane {
 

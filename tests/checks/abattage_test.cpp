@@ -5,9 +5,12 @@
 #include <string>
 #include <vector>
 
-#include "checks/utils.h"
+#include "checks/abattage.h"
+#include "checks/dates.h"
+#include "checks/valautorise.h"
 #include "support/magasin.h"
 #include "support/vse.h"
+#include "vocabulaire/store.h"
 
 using namespace quilvane;
 using namespace essai;

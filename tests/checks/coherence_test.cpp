@@ -6,8 +6,11 @@
 #include <set>
 #include <sstream>
 
-#include "checks/utils.h"
+#include "checks/coherence.h"
+#include "checks/valautorise.h"
 #include "support/champ.h"
+#include "vocabulaire/regle.h"
+#include "vocabulaire/store.h"
 
 using namespace essai;
 using namespace quilvane;

@@ -6,8 +6,10 @@
 #include <vector>
 
 #include "calendar/horloge.h"
-#include "checks/utils.h"
+#include "checks/dates.h"
+#include "checks/valautorise.h"
 #include "support/magasin.h"
+#include "vocabulaire/store.h"
 
 namespace {
 

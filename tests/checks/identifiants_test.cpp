@@ -12,8 +12,10 @@
 #include <string>
 #include <vector>
 
-#include "checks/utils.h"
+#include "checks/identifiants.h"
+#include "checks/valautorise.h"
 #include "support/champ.h"
+#include "vocabulaire/store.h"
 
 namespace {
 

@@ -8,8 +8,11 @@
 #include <string>
 #include <vector>
 
-#include "checks/utils.h"
+#include "checks/listes.h"
+#include "checks/valautorise.h"
 #include "support/champ.h"
+#include "vocabulaire/regle.h"
+#include "vocabulaire/store.h"
 
 namespace {
 

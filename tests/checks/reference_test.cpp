@@ -3,8 +3,11 @@
 #include <string>
 #include <vector>
 
-#include "checks/utils.h"
+#include "checks/reference.h"
+#include "checks/valautorise.h"
 #include "support/magasin.h"
+#include "vocabulaire/regle.h"
+#include "vocabulaire/store.h"
 
 using namespace quilvane;
 using namespace essai;

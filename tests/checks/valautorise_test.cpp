@@ -17,8 +17,10 @@
 #include <vector>
 
 #include "checks/index.h"
-#include "checks/utils.h"
+#include "checks/listes.h"
+#include "checks/valautorise.h"
 #include "support/champ.h"
+#include "vocabulaire/store.h"
 
 namespace {
 

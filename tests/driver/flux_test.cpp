@@ -9,9 +9,9 @@
 #include <utility>
 #include <vector>
 
-#include "rules/pack.h"
 #include "support/banc.h"
 #include "support/generateur.h"
+#include "vocabulaire/store.h"
 
 using namespace quilvane;
 

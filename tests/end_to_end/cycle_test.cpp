@@ -19,6 +19,7 @@
 #include "driver/etat.h"
 #include "driver/quilvane.h"
 #include "support/attendu.h"
+#include "vocabulaire/store.h"
 
 using namespace essai;
 namespace fs = std::filesystem;

@@ -1,7 +1,13 @@
 #include <gtest/gtest.h>
 
+#include "messages/aiguillage.h"
 #include "messages/cas.h"
-#include "messages/messages.h"
+#include "vocabulaire/regle.h"
+#include "vocabulaire/store.h"
+
+namespace quilvane {
+fVerif vAbat_C2_1, vAbat_C2_2;
+}  // namespace quilvane
 
 using namespace essai;
 using namespace quilvane;

@@ -11,10 +11,11 @@
 #include "driver/etat.h"
 #include "driver/flux.h"
 #include "driver/traitement.h"
-#include "messages/messages.h"
 #include "rules/entete.h"
 #include "support/champ.h"
 #include "support/lignes.h"
+#include "vocabulaire/regle.h"
+#include "vocabulaire/store.h"
 
 using namespace quilvane;
 using namespace essai;

@@ -1,6 +1,10 @@
-#include "checks/utils.h"
+#include "checks/valautorise.h"
 #include "messages/cas.h"
-#include "messages/messages.h"
+#include "vocabulaire/store.h"
+
+namespace quilvane {
+fVerif fCoherenCC_dete_dem;
+}  // namespace quilvane
 
 using namespace essai;
 using namespace quilvane;

@@ -1,7 +1,12 @@
 #include <gtest/gtest.h>
 
 #include "messages/cas.h"
-#include "messages/messages.h"
+#include "vocabulaire/regle.h"
+#include "vocabulaire/store.h"
+
+namespace quilvane {
+fVerif ecbo_C12, ecbo_C13, ecbo_C15;
+}  // namespace quilvane
 
 using namespace essai;
 using namespace quilvane;

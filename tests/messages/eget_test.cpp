@@ -1,6 +1,8 @@
-#include "checks/utils.h"
 #include "messages/cas.h"
-#include "messages/messages.h"
+
+namespace quilvane {
+fVerif eget_fC5C6;
+}  // namespace quilvane
 
 using namespace essai;
 using namespace quilvane;

@@ -1,6 +1,9 @@
-#include "checks/utils.h"
+#include "checks/valautorise.h"
 #include "messages/cas.h"
-#include "messages/messages.h"
+
+namespace quilvane {
+fVerif erti_fC5, erti_fC9C10;
+}  // namespace quilvane
 
 using namespace essai;
 using namespace quilvane;

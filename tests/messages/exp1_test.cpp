@@ -1,7 +1,11 @@
 #include <gtest/gtest.h>
 
 #include "messages/cas.h"
-#include "messages/messages.h"
+#include "vocabulaire/regle.h"
+
+namespace quilvane {
+fVerif fexp1_C4;
+}  // namespace quilvane
 
 using namespace essai;
 using namespace quilvane;

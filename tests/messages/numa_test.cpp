@@ -1,7 +1,11 @@
 #include <gtest/gtest.h>
 
 #include "messages/cas.h"
-#include "messages/messages.h"
+#include "vocabulaire/regle.h"
+
+namespace quilvane {
+fVerif numa_fC6_1, numa_fC6_2, numa_fC6_3;
+}  // namespace quilvane
 
 using namespace essai;
 using namespace quilvane;

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "messages/cas.h"
-#include "messages/messages.h"
+#include "vocabulaire/regle.h"
 
 using namespace essai;
 using namespace quilvane;

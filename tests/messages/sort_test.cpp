@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
 #include "messages/cas.h"
-#include "messages/messages.h"
 #include "support/mouvement.h"
+#include "vocabulaire/regle.h"
 
 using namespace essai;
 using namespace quilvane;

@@ -8,11 +8,15 @@
 #include <string>
 #include <vector>
 
-#include "checks/utils.h"
+#include "checks/dates.h"
+#include "checks/listes.h"
+#include "checks/valautorise.h"
 #include "driver/etat.h"
 #include "rules/moteur.h"
 #include "support/champ.h"
 #include "support/vse.h"
+#include "vocabulaire/regle.h"
+#include "vocabulaire/store.h"
 
 using namespace quilvane;
 using namespace essai;

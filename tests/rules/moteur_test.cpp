@@ -10,10 +10,12 @@
 #include <string>
 #include <vector>
 
-#include "messages/messages.h"
+#include "messages/aiguillage.h"
 #include "rules/entete.h"
 #include "support/banc.h"
 #include "support/vse.h"
+#include "vocabulaire/regle.h"
+#include "vocabulaire/store.h"
 
 using namespace quilvane;
 using essai::latin1;

@@ -9,7 +9,8 @@
 #include <vector>
 
 #include "checks/valautorise.h"
-#include "rules/pack.h"
+#include "vocabulaire/regle.h"
+#include "vocabulaire/store.h"
 
 namespace essai {
 

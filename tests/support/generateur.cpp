@@ -4,8 +4,8 @@
 #include <sstream>
 
 #include "checks/valautorise.h"
-#include "rules/pack.h"
 #include "support/vse.h"
+#include "vocabulaire/store.h"
 
 namespace essai {
 

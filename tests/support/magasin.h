@@ -14,8 +14,9 @@
 #include <string>
 #include <vector>
 
-#include "rules/pack.h"
 #include "support/champ.h"
+#include "vocabulaire/regle.h"
+#include "vocabulaire/store.h"
 
 namespace essai {
 

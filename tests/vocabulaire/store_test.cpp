@@ -1,4 +1,7 @@
-#include "rules/pack.h"
+#include "support/magasin.h"
+#include "support/vse.h"
+#include "vocabulaire/regle.h"
+#include "vocabulaire/store.h"
 
 #include <gtest/gtest.h>
 
@@ -6,8 +9,6 @@
 #include <iterator>
 #include <string>
 
-#include "support/magasin.h"
-#include "support/vse.h"
 
 using namespace quilvane;
 using namespace essai;

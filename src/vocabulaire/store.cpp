@@ -1,27 +1,10 @@
-/**
- * pack - the field store and the state that the engine shares with the record
- * stream and the checks.
- */
-#include "rules/pack.h"
+#include "vocabulaire/store.h"
 
 #include <cstring>
 
 namespace quilvane {
 
-constinit valeurVSE valEnteteVSE[13] = {};
-constinit valeurVSE valCorpsVSE[100] = {};
-constinit valeurVSE valFinVSE[5] = {};
-constinit valeurVSE valFichEnteteVSE[13] = {};
-constinit valeurVSE valFichCorpsVSE[9] = {};
-constinit valeurVSE valFichFinVSE[5] = {};
-
-constinit char xdebug[TAILLE_XDEBUG] = {};
-constinit int codeErreur[MAX_ERREURS + 1] = {};
-constinit int nbErreur = 0;
-constinit int codCaract = 0;
-constinit int codLong = 0;
-constinit char bufC11[32] = {};
-constinit vseCorps cp = {};
+constinit store leStore = {};
 
 void retenirVSE(const char* tampon) {
     const std::size_t longueur = strnlen(tampon, TAILLE_XDEBUG - 1);
