@@ -12,6 +12,14 @@
 #include <string>
 #include <vector>
 
+#include "checks/abattage.h"
+#include "checks/coherence.h"
+#include "checks/conformite.h"
+#include "checks/dates.h"
+#include "checks/identifiants.h"
+#include "checks/listes.h"
+#include "checks/reference.h"
+#include "checks/valautorise.h"
 #include "messages/aiguillage.h"
 #include "support/champ.h"
 #include "support/lignes.h"
