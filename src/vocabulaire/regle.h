@@ -11,9 +11,11 @@ namespace quilvane {
 
 /**
  * A check. `dependance` is the text of the field that the row depends on (or
- * ""), `champ` the field's own slot and `sverif` the row's list. Returns non-zero when the field is
- * acceptable. A check prints nothing and changes nothing; only the date reader in incomplete mode rewrites
- * `champ`.
+ * ""), `champ` the field's own slot and `sverif` the row's list. Returns
+ * non-zero when the field is acceptable. A check prints nothing and changes
+ * nothing, with two exceptions: the date reader in incomplete mode rewrites
+ * `champ`, and `presence_C2` cuts the slaughter notice `cp` anew for the
+ * checks behind it.
  */
 using fVerif = int(const char* dependance, char* champ, const liste& sverif);
 
