@@ -8,12 +8,18 @@
 #include <string>
 #include <vector>
 
-#include "checks/utils.h"
+#include "checks/coherence.h"
+#include "checks/conformite.h"
+#include "checks/dates.h"
+#include "checks/listes.h"
+#include "checks/valautorise.h"
 #include "controle/composition.h"
 #include "support/generateur.h"
 #include "support/memoire.h"
 #include "support/passage.h"
 #include "support/vse.h"
+#include "vocabulaire/regle.h"
+#include "vocabulaire/store.h"
 
 using namespace quilvane;
 
@@ -56,29 +62,29 @@ void record(benchmark::State& etat, const std::string& type) {
     etat.SetItemsProcessed(etat.iterations());
 }
 
-void liste(benchmark::State& etat, const tValAutorise* entrees, int nombre, const char* texte) {
+void recherche(benchmark::State& etat, const liste& valeurs, const char* texte) {
     for (auto _ : etat)
-        benchmark::DoNotOptimize(dansListe(texte, entrees, nombre));
+        benchmark::DoNotOptimize(dansListe(texte, valeurs));
 }
-BENCHMARK_CAPTURE(liste, TP_premier, TP, LenTP, "AF");
-BENCHMARK_CAPTURE(liste, TP_FR, TP, LenTP, "FR");
-BENCHMARK_CAPTURE(liste, TP_absent, TP, LenTP, "QQ");
-BENCHMARK_CAPTURE(liste, TDC_078, TDC, LenTDC, "078IPG  ");
-BENCHMARK_CAPTURE(liste, TRSMOD_dernier, TRSMOD, LenTRSMOD, "SCIC");
+BENCHMARK_CAPTURE(recherche, TP_premier, TP, "AF");
+BENCHMARK_CAPTURE(recherche, TP_FR, TP, "FR");
+BENCHMARK_CAPTURE(recherche, TP_absent, TP, "QQ");
+BENCHMARK_CAPTURE(recherche, TDC_078, TDC, "078IPG  ");
+BENCHMARK_CAPTURE(recherche, TRSMOD_dernier, TRSMOD, "SCIC");
 
-void verif(benchmark::State& etat, fVerif* v, const char* dependance, const char* texte, const void* sverif,
-           int len) {
+void verif(benchmark::State& etat, fVerif* v, const char* dependance, const char* texte,
+           const liste& sverif) {
     char champ[64];
     for (auto _ : etat) {
         std::strcpy(champ, texte);
-        benchmark::DoNotOptimize(v(dependance, champ, sverif, len));
+        benchmark::DoNotOptimize(v(dependance, champ, sverif));
     }
 }
-BENCHMARK_CAPTURE(verif, fDATEC, fDATEC, "", "29022024", nullptr, 0);
-BENCHMARK_CAPTURE(verif, fCoherenDC, fCoherenDC, "15032024", "29022024", nullptr, 0);
-BENCHMARK_CAPTURE(verif, fConform10, fConform10, "", "9512345678  ", TD, 97);
-BENCHMARK_CAPTURE(verif, fCoheren_OC_IND_M, fCoheren_OC_IND_M, "976IPG  ", "650001      ", IND_M, 303);
-BENCHMARK_CAPTURE(verif, fVerifNumEtranger, fVerifNumEtranger, "BE", "ABCDEFGH1234", nullptr, 0);
+BENCHMARK_CAPTURE(verif, fDATEC, fDATEC, "", "29022024", sansListe);
+BENCHMARK_CAPTURE(verif, fCoherenDC, fCoherenDC, "15032024", "29022024", sansListe);
+BENCHMARK_CAPTURE(verif, fConform10, fConform10, "", "9512345678  ", TD);
+BENCHMARK_CAPTURE(verif, fCoheren_OC_IND_M, fCoheren_OC_IND_M, "976IPG  ", "650001      ", IND_M);
+BENCHMARK_CAPTURE(verif, fVerifNumEtranger, fVerifNumEtranger, "BE", "ABCDEFGH1234", sansListe);
 
 }  // namespace
 

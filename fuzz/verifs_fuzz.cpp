@@ -2,37 +2,40 @@
  * The check functions with arbitrary texts and lengths. Texts stand in blocks
  * of their exact size, so that a look behind a terminator is seen.
  */
+#include "calendar/datecalc.h"
+#include "checks/abattage.h"
+#include "checks/coherence.h"
+#include "checks/conformite.h"
+#include "checks/dates.h"
+#include "checks/identifiants.h"
+#include "checks/lecture.h"
+#include "checks/listes.h"
+#include "checks/reference.h"
+#include "checks/valautorise.h"
 #include "cible.h"
+#include "messages/aiguillage.h"
+#include "rules/entete.h"
+#include "vocabulaire/regle.h"
+#include "vocabulaire/store.h"
 
 #include <cstring>
 #include <memory>
 #include <vector>
 
-#include "calendar/datecalc.h"
-#include "checks/lecture.h"
-#include "checks/utils.h"
-#include "messages/aiguillage.h"
-#include "messages/messages.h"
-#include "rules/entete.h"
 
 using namespace quilvane;
 
 namespace {
 
-struct paireListe {
-    const void* liste;
-    int taille;
-};
-
 /** Every check that a row names, with its list, and the checks that none names. */
 struct catalogue {
     std::vector<fVerif*> verifs;
-    std::vector<paireListe> listes;
+    std::vector<const liste*> listes;
     catalogue() {
         const auto ajouter = [this](const sCorps* table, int lignes) {
             for (int i = 0; i < lignes; ++i) {
                 if (table[i].pfVerif != nullptr) verifs.push_back(table[i].pfVerif);
-                if (table[i].sverif != nullptr) listes.push_back({table[i].sverif, *table[i].plenSverif});
+                listes.push_back(table[i].sverif);
             }
         };
         for (const sAiguillage& a : tAiguillage)
@@ -49,9 +52,7 @@ struct catalogue {
                           fVEGDS,           fichier_C11,          verifSpace,
                           return_true})
             verifs.push_back(v);
-        listes.push_back({nullptr, 0});
-        listes.push_back({D7F10, LenD7F10});
-        listes.push_back({NUM, LenNUM});
+        listes.insert(listes.end(), {&sansListe, &D7F10, &NUM});
     }
 };
 
@@ -69,7 +70,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     static const catalogue C;
     cible::octets o{data, size};
     fVerif* const verif = C.verifs[(o.un() * 256U + o.un()) % C.verifs.size()];
-    const paireListe liste = C.listes[o.un() % C.listes.size()];
+    const liste& sverif = *C.listes[o.un() % C.listes.size()];
     // The record that some checks look at, and the slots that others read.
     const std::string record = o.texte(o.un());
     std::memset(xdebug, 0, sizeof xdebug);
@@ -85,7 +86,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const auto champ = bloc(o.tout());
     const std::string avant = champ.get();
 
-    const int verdict = verif(dependance.get(), champ.get(), liste.liste, liste.taille);
+    const int verdict = verif(dependance.get(), champ.get(), sverif);
     const std::string apres = champ.get();
     cible::verifier(apres.size() == avant.size(), "a check does not change a field's length");
     cible::verifier(apres.compare(0, std::string::npos, avant) == 0 ||
@@ -93,8 +94,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
                                                   avant.substr(std::min<std::size_t>(4, avant.size()))),
                     "only the first four characters of a date are rewritten");
     if (apres == avant)
-        cible::verifier(verif(dependance.get(), champ.get(), liste.liste, liste.taille) == verdict,
-                        "a check has no memory");
+        cible::verifier(verif(dependance.get(), champ.get(), sverif) == verdict, "a check has no memory");
 
     // The functions of other signatures.
     const char* const a = champ.get();

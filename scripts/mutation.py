@@ -40,7 +40,7 @@ PARTS = {"cell": 35, "list": 15, "code": 50}
 
 # This header gives the sizes of what tests and product share: a library that
 # was built with another one would be noticed for the wrong reason.
-PARTAGES = {"src/rules/pack.h"}
+PARTAGES = {"src/vocabulaire/pack.h", "src/vocabulaire/liste.h", "src/vocabulaire/store.h", "src/vocabulaire/avis.h"}
 
 CONTRAIRES = {
     "==": ["!="], "!=": ["=="], "<": ["<=", ">"], "<=": ["<", ">="], ">": [">=", "<"], ">=": [">", "<="],
@@ -49,7 +49,7 @@ CONTRAIRES = {
 }
 
 COLONNES = ["field", "first", "last", "CRE", "DEM", "INV", "EDI", "MOD",
-            "check", "count", "list", "dependency", "error"]
+            "check", "list", "dependency", "error"]
 
 
 class Changement:
@@ -158,7 +158,7 @@ def autresCellules(colonne, valeur, table):
         if m is None:
             return ["corps(C1)", "entete(E8)", "fin(F1)"]
         return ["aucune"] + [f"{m[1]}({c})" for c in autresChamps(m[2])]
-    defaut = {"check": ["fVerifValAut", "fDATEC"], "count": ["&LenFR", "&Len0"], "list": ["FR", "ET2"]}[colonne]
+    defaut = {"check": ["fVerifValAut", "fDATEC"], "list": ["&FR", "&ET2", "&sansListe"]}[colonne]
     return sorted({c for c in table[colonne] | set(defaut) if c != valeur})
 
 
@@ -203,7 +203,7 @@ def sites(racine):
             else:
                 apres = CONTRAIRES[avant]
             if apres:
-                liste = chemin.name == "valautorise.cpp" and genre == "texte"
+                liste = chemin.name == "valautorise.h" and genre == "texte"
                 yield fichier, place, "list" if liste else "code", apres, ""
 
 

@@ -7,14 +7,14 @@ set -euo pipefail
 racine=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 sources=${1:-$racine/src}
 
-# Each room of the core, and what it may include; a room is a folder, or one
-# header of it.
+# Each room of the core, and what it may include.
 regles='
-calendar calendar
-checks   checks calendar rules/pack.h
-rules    rules checks calendar
-messages messages rules checks calendar
-controle controle messages rules checks calendar
+vocabulaire vocabulaire
+calendar    calendar
+checks      checks calendar vocabulaire
+rules       rules checks calendar vocabulaire
+messages    messages rules checks calendar vocabulaire
+controle    controle messages rules checks calendar vocabulaire
 '
 
 # Reads one room's files. Comments and texts are taken off first, so that they

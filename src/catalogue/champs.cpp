@@ -8,7 +8,7 @@
 #include <algorithm>
 #include <iterator>
 
-#include "rules/pack.h"
+#include "vocabulaire/pack.h"
 
 namespace quilvane {
 

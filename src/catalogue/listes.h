@@ -8,14 +8,15 @@
 #include <string_view>
 
 #include "catalogue/texte.h"
-#include "rules/pack.h"
+#include "vocabulaire/liste.h"
 
 namespace quilvane {
 
 /** One list. */
 struct sListe {
     const char* nom;              // "TD"
-    const tValAutorise* entrees;  // its texts, row after row
+    const liste* valeurs;         // the list itself, as rule rows name it
+    const tValAutorise* entrees;  // its texts, row after row, an empty end row apart
     int nombre;                   // their count: rows times `colonnes`
     int colonnes;                 // 1; 2 or 3 when the texts are read by pairs or triples
     texte titre;                  // a short noun phrase, at most 60 characters, no final stop
@@ -27,7 +28,7 @@ extern const std::span<const sListe> listes;
 
 /** The entry of a list, by the pointer that a rule row holds or by its name;
  *  null when there is none. */
-const sListe* listeEnMots(const void* entrees);
+const sListe* listeEnMots(const liste* valeurs);
 const sListe* listeNommee(std::string_view nom);
 
 }  // namespace quilvane

@@ -18,7 +18,7 @@
 #include <string_view>
 
 #include "catalogue/texte.h"
-#include "rules/pack.h"
+#include "vocabulaire/regle.h"
 
 namespace quilvane {
 

@@ -3,8 +3,13 @@
  * the extract of the whole notice, rather than at their own field; and a few
  * small checks that no row names.
  */
+#include "checks/abattage.h"
+
+#include "checks/identifiants.h"
 #include "checks/lecture.h"
-#include "checks/utils.h"
+#include "checks/listes.h"
+#include "checks/valautorise.h"
+#include "vocabulaire/store.h"
 
 namespace quilvane {
 
@@ -23,14 +28,14 @@ std::size_t longueurUtile(const char* texte) { return std::strcspn(texte, " "); 
 
 }  // namespace
 
-int presence_C2(const char*, char*, const void*, int) {
+int presence_C2(const char*, char*, const liste&) {
     getVseCorps();
     return cp.NUME_NATI_BOV[0] != '\0' && !blancs12(cp.NUME_NATI_BOV);
 }
 
-int presence_C5(const char*, char*, const void*, int) { return !videOuBlanc(cp.NUME_EXPLOIT_PROVENANCE); }
+int presence_C5(const char*, char*, const liste&) { return !videOuBlanc(cp.NUME_EXPLOIT_PROVENANCE); }
 
-int presence_C8(const char*, char*, const void*, int) {
+int presence_C8(const char*, char*, const liste&) {
     // The number may be left blank, but not half blank.
     const char* const tuerie = cp.NUME_TUERIE;
     const std::size_t longueur = std::strlen(tuerie);
@@ -41,21 +46,21 @@ int presence_C8(const char*, char*, const void*, int) {
                 [](char c) { return estLettreOuChiffre(c) || c == ' '; });
 }
 
-int presence_C11(const char*, char*, const void*, int) {
+int presence_C11(const char*, char*, const liste&) {
     return cp.NUME_IDENT_ABAT_NOTIF[0] != '\0' && !blancs12(cp.NUME_IDENT_ABAT_NOTIF);
 }
 
-int fVerif_ASDA(const char*, char* champ, const void*, int) {
-    return dansListeStricte(champ, TP, LenTP) || dansListeStricte(champ, TCPNOCEE, LenTCPNOCEE);
+int fVerif_ASDA(const char*, char* champ, const liste&) {
+    return dansListeStricte(champ, TP) || dansListeStricte(champ, TCPNOCEE);
 }
 
-int fVerif_NUM_ASDA(const char*, char* champ, const void*, int) {
+int fVerif_NUM_ASDA(const char*, char* champ, const liste&) {
     if (!vaut(cp.CODE_EXPLOIT_PROVENANCE, "FR")) return 1;
     if (cp.INDIC_CREA_INVA_ABATT[0] == '\0') return 0;
     return estNational(cp.NUME_IDENT_ABAT_NOTIF) || verifNumExploitFr(champ);
 }
 
-int fVerif_NUM_TUE(const char*, char* champ, const void*, int) {
+int fVerif_NUM_TUE(const char*, char* champ, const liste&) {
     if (blancs8(champ)) return 1;
     if (!estOffice(cp.NUME_IDENT_ABAT_NOTIF)) return std::strlen(champ) >= 8 && estLettreOuChiffre(champ[0]);
     // The Office has no slaughterhouse: its number is the two country codes.
@@ -66,39 +71,39 @@ int fVerif_NUM_TUE(const char*, char* champ, const void*, int) {
            std::memcmp(champ + premier, cp.CODE_PAYS_ABAT_NOTIF, n - premier) == 0;
 }
 
-int fVerif_chaine_POIDS(const char*, char* champ, const void*, int) {
+int fVerif_chaine_POIDS(const char*, char* champ, const liste&) {
     if (std::strlen(champ) != 7) return 0;
     if (videOuBlanc(champ)) return 1;
     return chiffres(champ, 1, 4) && champ[4] == ',' && chiffres(champ, 6, 7);
 }
 
-int fVerif_POIDS(const char*, char* champ, const void*, int) {
+int fVerif_POIDS(const char*, char* champ, const liste&) {
     if (std::strlen(champ) == 7 && videOuBlanc(champ)) return 1;
     const long long kilos = nombre(champ, 1, 4);
     return kilos < 1000 || (kilos == 1000 && nombre(champ, 6, 2) == 0);
 }
 
-int fVerif_CODEPE_ABATNOT(const char*, char* champ, const void*, int) {
+int fVerif_CODEPE_ABATNOT(const char*, char* champ, const liste&) {
     if (!estNational(cp.NUME_IDENT_ABAT_NOTIF)) return vaut(champ, "FR");
     const char pays[3] = {carac(cp.NUME_IDENT_ABAT_NOTIF, 7), carac(cp.NUME_IDENT_ABAT_NOTIF, 8), '\0'};
     return egal(cp.CODE_PAYS_ABAT_NOTIF, pays);
 }
 
-int fVerif_NUMID_ABATNOT_CONF(const char*, char* champ, const void*, int) {
+int fVerif_NUMID_ABATNOT_CONF(const char*, char* champ, const liste&) {
     const std::size_t n = longueurUtile(champ);
     if (n != 7 && n != 8) return 0;
     if (estNational(champ)) return 1;
     if (contientBlanc(champ, 1, 2)) return 0;
     if (!blancs(champ, 11, 12)) return 0;
-    return corse(champ) || debutDansListe(champ, TD, LenTD, 2);
+    return corse(champ) || debutDansListe(champ, TD, 2);
 }
 
-int fVerif_NUMID_ABATNOT_COHER(const char*, char*, const void*, int) { return 1; }
-int fVerif_NUMID_ABATNOT_TABREF(const char*, char*, const void*, int) { return 1; }
-int fVerif_INDIC_ABAT(const char*, char*, const void*, int) { return 1; }
-int return_true(const char*, char*, const void*, int) { return 1; }
+int fVerif_NUMID_ABATNOT_COHER(const char*, char*, const liste&) { return 1; }
+int fVerif_NUMID_ABATNOT_TABREF(const char*, char*, const liste&) { return 1; }
+int fVerif_INDIC_ABAT(const char*, char*, const liste&) { return 1; }
+int return_true(const char*, char*, const liste&) { return 1; }
 
-int fichier_C11(const char*, char*, const void*, int) {
+int fichier_C11(const char*, char*, const liste&) {
     char numero[13];
     int n = 0;
     for (const char* p = cp.NUME_IDENT_ABAT_NOTIF; *p != '\0' && n < 12; ++p)
@@ -107,6 +112,6 @@ int fichier_C11(const char*, char*, const void*, int) {
     return egal(numero, bufC11) || estNational(corps(C11)) || corse(corps(C11));
 }
 
-int verifSpace(const char*, char* champ, const void*, int) { return vaut(champ, "10") || vaut(champ, "  "); }
+int verifSpace(const char*, char* champ, const liste&) { return vaut(champ, "10") || vaut(champ, "  "); }
 
 }  // namespace quilvane

@@ -3,11 +3,16 @@
  * with the departmental body, dates with the record's own date; and the date
  * reader on which every date check rests.
  */
+#include "checks/coherence.h"
+
+#include <algorithm>
 #include <charconv>
+#include <iterator>
 
 #include "calendar/datecalc.h"
 #include "checks/lecture.h"
-#include "checks/utils.h"
+#include "checks/valautorise.h"
+#include "vocabulaire/store.h"
 
 namespace quilvane {
 
@@ -48,9 +53,17 @@ constexpr plage PLAGES_SUPPLEMENTAIRES[] = {
 };
 // clang-format on
 
-/** Whether a department group of `n` three-character entries holds both. */
-bool groupeContient(const tValAutorise* groupe, int n, const char* a, const char* b) {
-    return debutDansListe(a, groupe, n, 3) && debutDansListe(b, groupe, n, 3);
+/** Whether one of the department groups, which are rows, holds both. */
+bool memeGroupe(const liste& groupes, const char* a, const char* b) {
+    const int n = groupes.colonnes;
+    for (int rang = 0; rang < groupes.lignes(n); ++rang) {
+        const auto contient = [groupe = groupes.ligne(rang), n](const char* code) {
+            return std::any_of(groupe, groupe + n,
+                               [code](const tValAutorise& d) { return memeDebut(d.valeur, code, 3); });
+        };
+        if (contient(a) && contient(b)) return true;
+    }
+    return false;
 }
 
 /** The date is not after `reference`, its year moved on by `ansDePlus`. */
@@ -69,7 +82,7 @@ int pasApresDecale(const char* reference, const char* date, int ansDePlus) {
 
 }  // namespace
 
-int fCoherenCC(const char* dependance, char* champ, const void*, int) {
+int fCoherenCC(const char* dependance, char* champ, const liste&) {
     constexpr const char* OUTRE_MER[] = {"971", "972", "973", "974", "976"};
     if (memeDebut(dependance, "POINTFOC", 8)) return 1;
     if (memeDebut(dependance, "02A", 3) || memeDebut(dependance, "02B", 3)) return memeDebut(champ, "20", 2);
@@ -80,26 +93,19 @@ int fCoherenCC(const char* dependance, char* champ, const void*, int) {
     return memeDebut(champ, aPartirDe(dependance, 2), 2);
 }
 
-int fCoherenCC_tr(const char* dependance, char* champ, const void* sverif, int lenSverif) {
-    return causeJ() || fCoherenCC(dependance, champ, sverif, lenSverif);
+int fCoherenCC_tr(const char* dependance, char* champ, const liste& sverif) {
+    return causeJ() || fCoherenCC(dependance, champ, sverif);
 }
 
-int fCoherenCCD(const char* dependance, char* champ, const void*, int) {
+int fCoherenCCD(const char* dependance, char* champ, const liste&) {
     return memeDebut(champ, dependance, 3) || (memeDebut(champ, "098", 3) && memeDebut(dependance, "974", 3));
 }
 
-int fCoherenCCDR(const char* dependance, char* champ, const void*, int) {
+int fCoherenCCDR(const char* dependance, char* champ, const liste&) {
     if (memeDebut(dependance, champ, 3)) return 1;
-    for (int rang = 0; rang < 2; ++rang) {
-        if (groupeContient(DPT2[rang], LenDPT2, dependance, champ)) return 1;
-        if (groupeContient(DPT4[rang], LenDPT4, dependance, champ)) return 1;
-        if (groupeContient(DPT5[rang], LenDPT5, dependance, champ)) return 1;
-    }
-    return groupeContient(DPT3, LenDPT3, dependance, champ) ||
-           groupeContient(DPT6, LenDPT6, dependance, champ) ||
-           groupeContient(DPT7, LenDPT7, dependance, champ) ||
-           groupeContient(DPT8, LenDPT8, dependance, champ) ||
-           groupeContient(DPT17, LenDPT17, dependance, champ);
+    constexpr const liste* GROUPES[] = {&DPT2, &DPT3, &DPT4, &DPT5, &DPT6, &DPT7, &DPT8, &DPT17};
+    return std::any_of(std::begin(GROUPES), std::end(GROUPES),
+                       [=](const liste* groupes) { return memeGroupe(*groupes, dependance, champ); });
 }
 
 int fCoherenCCE(const char* emetteur, const char* codeDep) {
@@ -111,19 +117,19 @@ int fCoherenCCE(const char* emetteur, const char* codeDep) {
 }
 
 int pairesTEDC(const char* emetteur, const char* codeDep) {
-    for (int rang = 0; rang < LenTEDC && TEDC[rang][0].valeur != nullptr; ++rang)
-        if (egal(TEDC[rang][0].valeur, emetteur) && egal(TEDC[rang][1].valeur, codeDep)) return 1;
+    for (int rang = 0; rang < LenTEDC && TEDC.ligne(rang)[0].valeur != nullptr; ++rang)
+        if (egal(TEDC.ligne(rang)[0].valeur, emetteur) && egal(TEDC.ligne(rang)[1].valeur, codeDep)) return 1;
     return 0;
 }
 
-int fCoherenCCEget(const char* dependance, char* champ, const void* sverif, int lenSverif) {
+int fCoherenCCEget(const char* dependance, char* champ, const liste& sverif) {
     const char* const production = corps(C4);
     if (vaut(production, "V")) {
-        const tValAutorise* const series = listeDe(sverif);
         const char serie[3] = {carac(champ, 1), carac(champ, 2), '\0'};
-        for (int paire = 0; paire < lenSverif / 2; ++paire)
-            if (memeDebut(series[2 * paire].valeur, dependance, 6))
-                return std::strstr(series[2 * paire + 1].valeur, serie) != nullptr;
+        for (int paire = 0; paire < sverif.lignes(2); ++paire)
+            if (const tValAutorise* const series = sverif.ligne(paire);
+                memeDebut(series[0].valeur, dependance, 6))
+                return std::strstr(series[1].valeur, serie) != nullptr;
         return 0;
     }
     if (!vaut(production, "P")) return 0;
@@ -137,15 +143,13 @@ int fCoherenCCEget(const char* dependance, char* champ, const void* sverif, int 
     return memeDebut(champ, aPartirDe(dependance, 2), 2);
 }
 
-int fCoheren_OC_IND_M(const char* dependance, char* champ, const void* sverif, int lenSverif) {
-    const tValAutorise* const triples = listeDe(sverif);
-    const int nombreTriples = lenSverif / 3;
+int fCoheren_OC_IND_M(const char* dependance, char* champ, const liste& sverif) {
+    const int triples = sverif.lignes(3);
     int courant = 0;
     // An unknown body stops on the last triple, whose range is then used.
-    while (courant < nombreTriples - 1 && !memeDebut(triples[3 * courant].valeur, dependance, 6))
+    while (courant < triples - 1 && !memeDebut(sverif.ligne(courant)[0].valeur, dependance, 6))
         ++courant;
-    if (nombreTriples > 0 &&
-        entre(champ, triples[3 * courant + 1].valeur, triples[3 * courant + 2].valeur, 6))
+    if (triples > 0 && entre(champ, sverif.ligne(courant)[1].valeur, sverif.ligne(courant)[2].valeur, 6))
         return 1;
     for (const plage& p : PLAGES_SUPPLEMENTAIRES)
         if (memeDebut(p.code, dependance, 6) && entre(champ, p.bas, p.haut, 6)) return 1;
@@ -159,25 +163,25 @@ int fCoherenDCSupInf(const char* reference, const char* date, esupInf sens) {
     return sens == INF ? c.ordre <= d.ordre : c.ordre >= d.ordre;
 }
 
-int fCoherenDC(const char* dependance, char* champ, const void*, int) {
+int fCoherenDC(const char* dependance, char* champ, const liste&) {
     return fCoherenDCSupInf(dependance, champ, INF);
 }
 
-int fCoherenDateSup(const char* dependance, char* champ, const void*, int) {
+int fCoherenDateSup(const char* dependance, char* champ, const liste&) {
     return fCoherenDCSupInf(dependance, champ, SUP);
 }
 
-int fCoherenDC_tr(const char* dependance, char* champ, const void*, int) {
+int fCoherenDC_tr(const char* dependance, char* champ, const liste&) {
     return pasApresDecale(dependance, champ, causeJ() ? 1 : 0);
 }
 
-int fCoherenDC_tr2(const char* dependance, char* champ, const void*, int) {
+int fCoherenDC_tr2(const char* dependance, char* champ, const liste&) {
     return pasApresDecale(dependance, champ, 1);
 }
 
-int fCoherenD_OC_an_1(const char*, char* champ, const void*, int) { return chiffres(champ, 1, 4); }
+int fCoherenD_OC_an_1(const char*, char* champ, const liste&) { return chiffres(champ, 1, 4); }
 
-int fCoherenD_OC_an_2(const char* dependance, char* champ, const void*, int) {
+int fCoherenD_OC_an_2(const char* dependance, char* champ, const liste&) {
     const dateInversee d(dependance);
     char annee[5] = {};
     std::memcpy(annee, d.texte, strnlen(d.texte, 4));

@@ -4,8 +4,13 @@
  * numbers, its wrappers by country, and the ovine and caprine (OC) and bovine
  * (BV) checks.
  */
+#include "checks/conformite.h"
+
 #include "checks/lecture.h"
-#include "checks/utils.h"
+#include "checks/listes.h"
+#include "checks/reference.h"
+#include "checks/valautorise.h"
+#include "vocabulaire/store.h"
 
 namespace quilvane {
 
@@ -16,8 +21,8 @@ enum eSuite { LIBRE, BLANCS_JUSQUA_12 };
 
 /** The core: a listed department (971 to 976 without 975 overseas) and
  *  `nbChiffres` digits. */
-int numeroFrancais(const char* champ, const void* sverif, int lenSverif, int nbChiffres, eSuite suite) {
-    if (!debutDansListe(champ, listeDe(sverif), lenSverif, 2)) return 0;
+int numeroFrancais(const char* champ, const liste& sverif, int nbChiffres, eSuite suite) {
+    if (!debutDansListe(champ, sverif, 2)) return 0;
     if (memeDebut(champ, "97", 2) && (!entre(champ, "971", "976", 3) || memeDebut(champ, "975", 3))) return 0;
     if (!chiffres(champ, 1, nbChiffres)) return 0;
     if (suite == LIBRE) return 1;
@@ -26,89 +31,92 @@ int numeroFrancais(const char* champ, const void* sverif, int lenSverif, int nbC
 }
 
 bool estFR(const char* pays) { return vaut(pays, "FR"); }
-bool estUE(const char* pays) { return dansListe(pays, TCEE, LenTCEE); }
-bool estECHA(const char* pays) { return dansListe(pays, TECH, LenTECH); }
+bool estUE(const char* pays) { return dansListe(pays, TCEE); }
+bool estECHA(const char* pays) { return dansListe(pays, TECH); }
 
 /** Numbers of ovines and caprines run from 100000 to 683499. */
 bool indicatifOC(const char* champ) { return entre(champ, "100000", "683499", 6); }
 
 /** The character of column `col` as a text in the list. */
-int caracDansListe(const char* champ, int col, const void* sverif, int lenSverif) {
+int caracDansListe(const char* champ, int col, const liste& sverif) {
     const char texte[2] = {carac(champ, col), '\0'};
-    return dansListe(texte, listeDe(sverif), lenSverif);
+    return dansListe(texte, sverif);
 }
 
 bool modeleBlanc(const char* champ) { return egal(champ, HuitBlancs[0].valeur); }
 
 }  // namespace
 
-int fConform8(const char*, char* champ, const void* sverif, int lenSverif) {
-    return numeroFrancais(champ, sverif, lenSverif, 8, BLANCS_JUSQUA_12);
+int fConform8(const char*, char* champ, const liste& sverif) {
+    return numeroFrancais(champ, sverif, 8, BLANCS_JUSQUA_12);
 }
 
-int fConform10(const char*, char* champ, const void* sverif, int lenSverif) {
-    return numeroFrancais(champ, sverif, lenSverif, 10, BLANCS_JUSQUA_12);
+int fConform10(const char*, char* champ, const liste& sverif) {
+    return numeroFrancais(champ, sverif, 10, BLANCS_JUSQUA_12);
 }
 
-int fConform8C(const char*, char* champ, const void* sverif, int lenSverif) {
-    return numeroFrancais(champ, sverif, lenSverif, 8, LIBRE);
+int fConform10NonNul(const char* dependance, char* champ, const liste& sverif) {
+    return fConform10(dependance, champ, sverif) && fVerifDiffZero(champ, 7, 10);
 }
 
-int fConform(const char*, char* champ, const void* sverif, int lenSverif) {
-    return numeroFrancais(champ, sverif, lenSverif, 10, LIBRE);
+int fConform8C(const char*, char* champ, const liste& sverif) {
+    return numeroFrancais(champ, sverif, 8, LIBRE);
 }
 
-int fConform8FR(const char* dependance, char* champ, const void* sverif, int lenSverif) {
-    return !estFR(dependance) || fConform8(dependance, champ, sverif, lenSverif);
+int fConform(const char*, char* champ, const liste& sverif) {
+    return numeroFrancais(champ, sverif, 10, LIBRE);
 }
 
-int fConform8FRnon(const char* dependance, char* champ, const void* sverif, int lenSverif) {
-    return estFR(dependance) || vaut(dependance, "  ") ||
-           fVerifAucunBlanc_SD(dependance, champ, sverif, lenSverif);
+int fConform8FR(const char* dependance, char* champ, const liste& sverif) {
+    return !estFR(dependance) || fConform8(dependance, champ, sverif);
 }
 
-int fCONFORM8FRNULL(const char* dependance, char* champ, const void* sverif, int lenSverif) {
-    return champOuvert(champ) || fConform8FR(dependance, champ, sverif, lenSverif);
+int fConform8FRnon(const char* dependance, char* champ, const liste& sverif) {
+    return estFR(dependance) || vaut(dependance, "  ") || fVerifAucunBlanc_SD(dependance, champ, sverif);
 }
 
-int fConform10FR(const char* dependance, char* champ, const void* sverif, int lenSverif) {
-    return !estFR(dependance) || fConform10(dependance, champ, sverif, lenSverif);
+int fCONFORM8FRNULL(const char* dependance, char* champ, const liste& sverif) {
+    return champOuvert(champ) || fConform8FR(dependance, champ, sverif);
 }
 
-int fCONFORM10FRNULL(const char* dependance, char* champ, const void* sverif, int lenSverif) {
-    return champOuvert(champ) || fConform10FR(dependance, champ, sverif, lenSverif);
+int fConform10FR(const char* dependance, char* champ, const liste& sverif) {
+    return !estFR(dependance) || fConform10(dependance, champ, sverif);
 }
 
-int fConform10FRnonUEnon(const char* dependance, char* champ, const void* sverif, int lenSverif) {
-    return estUE(dependance) || fConform10(dependance, champ, sverif, lenSverif);
+int fCONFORM10FRNULL(const char* dependance, char* champ, const liste& sverif) {
+    return champOuvert(champ) || fConform10FR(dependance, champ, sverif);
 }
 
-int fConform10FRnonECHAnon(const char* dependance, char* champ, const void* sverif, int lenSverif) {
-    return estECHA(dependance) || fConform10(dependance, champ, sverif, lenSverif);
+int fConform10FRnonUEnon(const char* dependance, char* champ, const liste& sverif) {
+    return estUE(dependance) || fConform10(dependance, champ, sverif);
 }
 
-int fConform10FRnonUEoui(const char* dependance, char* champ, const void* sverif, int lenSverif) {
-    return !estUE(dependance) || fConform10FRnon(dependance, champ, sverif, lenSverif);
+int fConform10FRnonECHAnon(const char* dependance, char* champ, const liste& sverif) {
+    return estECHA(dependance) || fConform10(dependance, champ, sverif);
 }
 
-int fConform10FRnonECHAoui(const char* dependance, char* champ, const void* sverif, int lenSverif) {
-    return !estECHA(dependance) || fConform10FRnon(dependance, champ, sverif, lenSverif);
+int fConform10FRnonUEoui(const char* dependance, char* champ, const liste& sverif) {
+    return !estUE(dependance) || fConform10FRnon(dependance, champ, sverif);
 }
 
-int fConform10FRnon(const char* dependance, char* champ, const void* sverif, int lenSverif) {
-    return estFR(dependance) || fVerifNumEtranger(dependance, champ, sverif, lenSverif);
+int fConform10FRnonECHAoui(const char* dependance, char* champ, const liste& sverif) {
+    return !estECHA(dependance) || fConform10FRnon(dependance, champ, sverif);
 }
 
-int fConform_OC_UE(const char* dependance, char* champ, const void* sverif, int lenSverif) {
-    return fConform10FRnon(dependance, champ, sverif, lenSverif);
+int fConform10FRnon(const char* dependance, char* champ, const liste& sverif) {
+    return estFR(dependance) || fVerifNumEtranger(dependance, champ, sverif);
 }
 
-int fConform_OC_FR(const char* dependance, char* champ, const void*, int) {
+int fConform_OC_UE(const char* dependance, char* champ, const liste& sverif) {
+    return fConform10FRnon(dependance, champ, sverif);
+}
+
+int fConform_OC_FR(const char* dependance, char* champ, const liste&) {
     if (!estFR(dependance)) return 1;
     return indicatifOC(champ) && chiffres(champ, 1, 11) && vaut(aPartirDe(champ, 12), " ");
 }
 
-int fConform_OC_TP(const char* dependance, char* champ, const void*, int) {
+int fConform_OC_TP(const char* dependance, char* champ, const liste&) {
     if (!estFR(dependance)) return 1;
     if (!indicatifOC(champ) || !chiffres(champ, 1, 6)) return 0;
     const char* const commande = corps(C9);
@@ -117,53 +125,53 @@ int fConform_OC_TP(const char* dependance, char* champ, const void*, int) {
     return (blancs(champ, 8, 11) || chiffres(champ, 8, 11)) && vaut(aPartirDe(champ, 12), " ");
 }
 
-int fConform_OC_IND_M(const char*, char* champ, const void*, int) {
+int fConform_OC_IND_M(const char*, char* champ, const liste&) {
     return indicatifOC(champ) && chiffres(champ, 1, 6) && vaut(aPartirDe(champ, 7), "      ");
 }
 
-int fConform_OC_model1(const char*, char* champ, const void*, int) {
+int fConform_OC_model1(const char*, char* champ, const liste&) {
     return !contientBlanc(champ, 1, 6) && vaut(aPartirDe(champ, 7), "  ");
 }
 
-int fConform_OC_model2(const char*, char* champ, const void* sverif, int lenSverif) {
-    return caracDansListe(champ, 1, sverif, lenSverif);
+int fConform_OC_model2(const char*, char* champ, const liste& sverif) {
+    return caracDansListe(champ, 1, sverif);
 }
 
-int fConform_OC_model3(const char*, char* champ, const void* sverif, int lenSverif) {
-    return caracDansListe(champ, 2, sverif, lenSverif);
+int fConform_OC_model3(const char*, char* champ, const liste& sverif) {
+    return caracDansListe(champ, 2, sverif);
 }
 
-int fConform_OC_model4(const char*, char* champ, const void* sverif, int lenSverif) {
-    return caracDansListe(champ, 3, sverif, lenSverif);
+int fConform_OC_model4(const char*, char* champ, const liste& sverif) {
+    return caracDansListe(champ, 3, sverif);
 }
 
-int fConform_OC_model5(const char*, char* champ, const void*, int) { return chiffres(champ, 4, 6); }
+int fConform_OC_model5(const char*, char* champ, const liste&) { return chiffres(champ, 4, 6); }
 
-int fConform_BV_model2(const char* dependance, char* champ, const void* sverif, int lenSverif) {
-    return modeleBlanc(champ) || fConform_OC_model2(dependance, champ, sverif, lenSverif);
+int fConform_BV_model2(const char* dependance, char* champ, const liste& sverif) {
+    return modeleBlanc(champ) || fConform_OC_model2(dependance, champ, sverif);
 }
 
-int fConform_BV_model3(const char* dependance, char* champ, const void* sverif, int lenSverif) {
-    return modeleBlanc(champ) || fConform_OC_model3(dependance, champ, sverif, lenSverif);
+int fConform_BV_model3(const char* dependance, char* champ, const liste& sverif) {
+    return modeleBlanc(champ) || fConform_OC_model3(dependance, champ, sverif);
 }
 
-int fConform_BV_model4(const char* dependance, char* champ, const void* sverif, int lenSverif) {
-    return modeleBlanc(champ) || fConform_OC_model4(dependance, champ, sverif, lenSverif);
+int fConform_BV_model4(const char* dependance, char* champ, const liste& sverif) {
+    return modeleBlanc(champ) || fConform_OC_model4(dependance, champ, sverif);
 }
 
-int fConform_BV_model5(const char* dependance, char* champ, const void* sverif, int lenSverif) {
-    return modeleBlanc(champ) || fConform_OC_model5(dependance, champ, sverif, lenSverif);
+int fConform_BV_model5(const char* dependance, char* champ, const liste& sverif) {
+    return modeleBlanc(champ) || fConform_OC_model5(dependance, champ, sverif);
 }
 
-int fConform_OC_pays_orig(const char* dependance, char* champ, const void*, int) {
-    return estFR(dependance) ? dansListe(champ, TP, LenTP) : vaut(champ, "  ");
+int fConform_OC_pays_orig(const char* dependance, char* champ, const liste&) {
+    return estFR(dependance) ? dansListe(champ, TP) : vaut(champ, "  ");
 }
 
-int fConform_OC_compteur(const char* dependance, char* champ, const void*, int) {
+int fConform_OC_compteur(const char* dependance, char* champ, const liste&) {
     if (carac(dependance, 3) != 'E') return vaut(champ, " ");
     return std::strcmp(champ, "0") >= 0 && std::strcmp(champ, "7") <= 0;
 }
 
-int fConform_temoin_bouc2(const char*, char* champ, const void*, int) { return !vaut(champ, "0"); }
+int fConform_temoin_bouc2(const char*, char* champ, const liste&) { return !vaut(champ, "0"); }
 
 }  // namespace quilvane

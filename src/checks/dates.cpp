@@ -2,11 +2,16 @@
  * dates - whether a date or time is well formed and plausible: complete or
  * partly unknown, before or after another date of its record.
  */
+#include "checks/dates.h"
+
 #include <ctime>
 
 #include "calendar/horloge.h"
+#include "checks/coherence.h"
 #include "checks/lecture.h"
-#include "checks/utils.h"
+#include "checks/reference.h"
+#include "checks/valautorise.h"
+#include "vocabulaire/store.h"
 
 namespace quilvane {
 
@@ -15,7 +20,7 @@ namespace {
 bool dateBlanche(const char* date) { return egal(date, HuitBlancs[0].valeur); }
 bool jourBlanc(const char* date) { return memeDebut(date, "  ", 2); }
 bool moisBlanc(const char* date) { return memeDebut(aPartirDe(date, 3), "  ", 2); }
-bool depuis(const char* date, const tValAutorise* reference) { return fVTABP(date, reference[0].valeur); }
+bool depuis(const char* date, const liste& reference) { return fVTABP(date, reference[0].valeur); }
 
 /** Empty text or a run of at most thirty blanks. */
 bool vide30(const char* texte) { return std::strlen(texte) <= 30 && videOuBlanc(texte); }
@@ -25,40 +30,40 @@ constexpr int DERNIERE_ANNEE_SANS_AVIS = 1997;
 
 }  // namespace
 
-int fDATEC(const char*, char* champ, const void*, int) { return fDATECouI(champ, COMPLETE); }
+int fDATEC(const char*, char* champ, const liste&) { return fDATECouI(champ, COMPLETE); }
 
-int fDATEI(const char*, char* champ, const void*, int) { return fDATECouI(champ, INCOMPLETE); }
+int fDATEI(const char*, char* champ, const liste&) { return fDATECouI(champ, INCOMPLETE); }
 
-int fDATECxad(const char*, char* champ, const void*, int) {
+int fDATECxad(const char*, char* champ, const liste&) {
     return dateBlanche(champ) || fDATECouI(champ, COMPLETE);
 }
 
-int fDatRecCorr(const char* dependance, char* champ, const void* sverif, int lenSverif) {
-    return fDATECxad(dependance, champ, sverif, lenSverif);
+int fDatRecCorr(const char* dependance, char* champ, const liste& sverif) {
+    return fDATECxad(dependance, champ, sverif);
 }
 
-int fDATEC_INC(const char*, char* champ, const void*, int) {
+int fDATEC_INC(const char*, char* champ, const liste&) {
     return blancs(champ, 1, 8) || fDATECouI(champ, COMPLETE);
 }
 
-int fDATEC_xad(const char* dependance, char* champ, const void* sverif, int lenSverif) {
-    return std::strlen(champ) == 8 && fDATECxad(dependance, champ, sverif, lenSverif);
+int fDATEC_xad(const char* dependance, char* champ, const liste& sverif) {
+    return std::strlen(champ) == 8 && fDATECxad(dependance, champ, sverif);
 }
 
-int fDatRecCorr_O(const char*, char* champ, const void*, int) {
+int fDatRecCorr_O(const char*, char* champ, const liste&) {
     return !dateBlanche(champ) && fDATECouI(champ, COMPLETE);
 }
 
-int fDatRecCorr_O_P18(const char* dependance, char* champ, const void*, int) {
+int fDatRecCorr_O_P18(const char* dependance, char* champ, const liste&) {
     return dateBlanche(champ) ? !depuis(dependance, P18) : fDATECouI(champ, COMPLETE);
 }
 
-int fDATEP6(const char*, char* champ, const void*, int) {
+int fDATEP6(const char*, char* champ, const liste&) {
     if (depuis(champ, P6) && (moisBlanc(champ) || jourBlanc(champ))) return 0;
     return fDATECouI(champ, INCOMPLETE);
 }
 
-int fDATEP6P7(const char*, char* champ, const void*, int) {
+int fDATEP6P7(const char*, char* champ, const liste&) {
     const bool depuisP7 = depuis(champ, P7);
     if (depuis(champ, P6)) {
         if (depuisP7) return fDATECouI(champ, COMPLETE);
@@ -69,19 +74,19 @@ int fDATEP6P7(const char*, char* champ, const void*, int) {
     return fDATECouI(champ, INCOMPLETE);
 }
 
-int fDatRecCohe(const char* dependance, char* champ, const void*, int) {
+int fDatRecCohe(const char* dependance, char* champ, const liste&) {
     return dateBlanche(champ) || fCoherenDCSupInf(dependance, champ, INF);
 }
 
-int fDatRecPost(const char* dependance, char* champ, const void*, int) {
+int fDatRecPost(const char* dependance, char* champ, const liste&) {
     return dateBlanche(champ) || fCoherenDCSupInf(dependance, champ, SUP);
 }
 
-int fDatRecPost_tr(const char* dependance, char* champ, const void* sverif, int lenSverif) {
-    return vaut(corps(C5), "J") || fDatRecPost(dependance, champ, sverif, lenSverif);
+int fDatRecPost_tr(const char* dependance, char* champ, const liste& sverif) {
+    return vaut(corps(C5), "J") || fDatRecPost(dependance, champ, sverif);
 }
 
-int fDatRec_OC_Post(const char* dependance, char* champ, const void*, int) {
+int fDatRec_OC_Post(const char* dependance, char* champ, const liste&) {
     if (dateBlanche(champ)) return 1;
     const char* const depuisAnnee = aPartirDe(champ, 5);
     char annee[5] = {};
@@ -89,24 +94,24 @@ int fDatRec_OC_Post(const char* dependance, char* champ, const void*, int) {
     return std::strcmp(annee, dependance) > 0;
 }
 
-int fVerifValAutDate(const char* dependance, char* champ, const void* sverif, int lenSverif) {
-    const tValAutorise* const causes = listeDe(sverif);
-    for (int paire = 0; paire < lenSverif / 2; ++paire) {
-        if (!egal(causes[2 * paire].valeur, champ)) continue;
-        const char* const limite = causes[2 * paire + 1].valeur;
+int fVerifValAutDate(const char* dependance, char* champ, const liste& sverif) {
+    for (int paire = 0; paire < sverif.lignes(2); ++paire) {
+        const tValAutorise* const cause = sverif.ligne(paire);
+        if (!egal(cause[0].valeur, champ)) continue;
+        const char* const limite = cause[1].valeur;
         return vaut(limite, "TOUJOURS") || fCoherenDCSupInf(limite, dependance, INF);
     }
     return 0;
 }
 
-int fHEUREC(const char*, char* champ, const void*, int) {
+int fHEUREC(const char*, char* champ, const liste&) {
     return chiffres(champ, 1, 6) && deuxChiffres(champ) < 24 && deuxChiffres(champ + 2) < 60 &&
            deuxChiffres(champ + 4) < 60;
 }
 
-int fDATEHEUREC(const char* dependance, char* champ, const void* sverif, int lenSverif) {
+int fDATEHEUREC(const char* dependance, char* champ, const liste& sverif) {
     const std::time_t present = maintenant();
-    if (!fHEUREC("", champ, sverif, lenSverif) || !chiffres(dependance, 1, 8)) return 0;
+    if (!fHEUREC("", champ, sverif) || !chiffres(dependance, 1, 8)) return 0;
     const auto lire = [](const char* texte, int col, int largeur) {
         return static_cast<int>(nombre(texte, col, largeur));
     };
@@ -129,23 +134,21 @@ int fDATEHEUREC(const char* dependance, char* champ, const void* sverif, int len
     return std::difftime(present, instant) > 0;
 }
 
-int fSimult(const char* dependance, char* champ, const void*, int) {
-    return vide30(dependance) == vide30(champ);
-}
+int fSimult(const char* dependance, char* champ, const liste&) { return vide30(dependance) == vide30(champ); }
 
-int fVerifDateInput(const char*, char*, const void*, int) { return 1; }
+int fVerifDateInput(const char*, char*, const liste&) { return 1; }
 
-int fVerifDateInputCvse(const char*, char*, const void*, int) { return 1; }
+int fVerifDateInputCvse(const char*, char*, const liste&) { return 1; }
 
-int fVerifDateInputPost(const char*, char* champ, const void*, int) {
+int fVerifDateInputPost(const char*, char* champ, const liste&) {
     return videOuBlanc(champ) || nombre(champ, 5, 4) > DERNIERE_ANNEE_SANS_AVIS;
 }
 
-int fVerifDateAbatPost(const char*, char* champ, const void*, int) {
+int fVerifDateAbatPost(const char*, char* champ, const liste&) {
     return nombre(champ, 5, 4) > DERNIERE_ANNEE_SANS_AVIS;
 }
 
-int fVerifDateAbatPostEntr(const char*, char* champ, const void*, int) {
+int fVerifDateAbatPostEntr(const char*, char* champ, const liste&) {
     const char* const entree = cp.DATE_ENTREE_ABAT;
     if (dateBlanche(entree) || dateBlanche(champ)) return 1;
     const long long annees = nombre(entree, 5, 4) - nombre(champ, 5, 4);

@@ -3,9 +3,13 @@
  * numbers, member states, French holding, approval and bovine numbers, EGET
  * holding codes.
  */
+#include "checks/identifiants.h"
+
 #include "calendar/datecalc.h"
 #include "checks/lecture.h"
-#include "checks/utils.h"
+#include "checks/listes.h"
+#include "checks/valautorise.h"
+#include "vocabulaire/store.h"
 
 namespace quilvane {
 
@@ -27,12 +31,11 @@ struct departement {
 bool chiffreOuMajuscule(char c) { return estChiffre(c) || estMajuscule(c); }
 
 /** Kind "V": a series of some body of the list, a capital, two digits. */
-bool codeVolailles(const char* champ, const tValAutorise* series, int lenSeries) {
+bool codeVolailles(const char* champ, const liste& series) {
     const departement serie(champ);
-    if (lenSeries < 2) return false;
     bool trouve = false;
-    for (int paire = 0; paire < lenSeries / 2 && !trouve; ++paire)
-        trouve = std::strstr(series[2 * paire + 1].valeur, serie.code) != nullptr;
+    for (int paire = 0; paire < series.lignes(2) && !trouve; ++paire)
+        trouve = std::strstr(series.ligne(paire)[1].valeur, serie.code) != nullptr;
     return trouve && estMajuscule(carac(champ, 3)) && chiffres(champ, 4, 5);
 }
 
@@ -46,7 +49,7 @@ bool codePorcins(const char* champ) {
             trouve = trouve || memeDebut(champ, prefixe, 3);
         if (!trouve) return false;
     } else {
-        if (!dep.est("98") && !dep.corse() && !dansListe(dep.code, TD, LenTD)) return false;
+        if (!dep.est("98") && !dep.corse() && !dansListe(dep.code, TD)) return false;
         if (!chiffreOuMajuscule(carac(champ, 3))) return false;
     }
     return tous(champ, 4, 5, chiffreOuMajuscule);
@@ -67,19 +70,19 @@ int fVerifLuhn(const char* texte) {
     return total % 10 == 0;
 }
 
-int fConformSiren(const char*, char* champ, const void*, int) {
+int fConformSiren(const char*, char* champ, const liste&) {
     if (egal(champ, quatorzeBlancs[0].valeur)) return 1;
     return !contientBlanc(champ, 1, 9) && egal(aPartirDe(champ, 10), cinqBlancs[0].valeur);
 }
 
-int fConformSiret(const char*, char* champ, const void*, int) {
+int fConformSiret(const char*, char* champ, const liste&) {
     return egal(champ, quatorzeBlancs[0].valeur) || !contientBlanc(champ, 1, 14);
 }
 
 int appartient_UE(const char* pays) {
-    constexpr tValAutorise MEMBRES[] = {"DE", "AT", "BE", "DK", "ES", "FI", "FR", "EL",
-                                        "IE", "LU", "NL", "PT", "UK", "SE", "IT"};
-    return dansListeStricte(pays, MEMBRES, 15);
+    static constexpr liste MEMBRES = {
+        {"DE", "AT", "BE", "DK", "ES", "FI", "FR", "EL", "IE", "LU", "NL", "PT", "UK", "SE", "IT"}};
+    return dansListeStricte(pays, MEMBRES);
 }
 
 int verifNumAgrementSanitaireFr(const char* numero) {
@@ -92,21 +95,20 @@ int verifNumAgrementSanitaireFr(const char* numero) {
 
     const departement dep(numero);
     if (dep.corse()) return 1;
-    if (!dansListeStricte(dep.code, TD, LenTD) || dep.est("20") || dep.est("98")) return 0;
+    if (!dansListeStricte(dep.code, TD) || dep.est("20") || dep.est("98")) return 0;
     if (!dep.est("97")) return 1;
     const char c3 = numero[2];
     return (c3 >= '1' && c3 <= '4') || c3 == '6';
 }
 
 int verifNumExploitFr(const char* numero) {
-    return chiffres(numero, 1, 8) && blancs(numero, 9, 12) &&
-           dansListeStricte(departement(numero).code, TD, LenTD);
+    return chiffres(numero, 1, 8) && blancs(numero, 9, 12) && dansListeStricte(departement(numero).code, TD);
 }
 
 int verifNumBovinFrOuImporte(const char* numero) {
     if (!chiffres(numero, 1, 10) || !blancs(numero, 11, 12)) return 0;
     const departement dep(numero);
-    if (!dansListe(dep.code, TD, LenTD)) return 0;
+    if (!dansListe(dep.code, TD)) return 0;
     return !dep.est("97") || (numero[2] >= '1' && numero[2] <= '4');
 }
 
@@ -116,18 +118,16 @@ int verifDateCompleteEtCorrecte(const char* date) {
     return annee >= 1900 && DateCalc_check_date(annee, deuxChiffres(date + 2), deuxChiffres(date));
 }
 
-int fConformEget(const char*, char* champ, const void* sverif, int lenSverif) {
+int fConformEget(const char*, char* champ, const liste& sverif) {
     const char* const production = corps(C4);
     if (vaut(production, "V")) {
-        if (!codeVolailles(champ, listeDe(sverif), lenSverif)) return 0;
+        if (!codeVolailles(champ, sverif)) return 0;
     } else if (!vaut(production, "P") || !codePorcins(champ)) {
         return 0;
     }
     return vaut(aPartirDe(champ, 6), "       ");
 }
 
-int fConform3(const char*, char* champ, const void* sverif, int lenSverif) {
-    return debutDansListe(champ, listeDe(sverif), lenSverif, 3);
-}
+int fConform3(const char*, char* champ, const liste& sverif) { return debutDansListe(champ, sverif, 3); }
 
 }  // namespace quilvane

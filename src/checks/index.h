@@ -5,7 +5,7 @@
 #ifndef QUILVANE_CHECKS_INDEX_H
 #define QUILVANE_CHECKS_INDEX_H
 
-#include "rules/pack.h"
+#include "vocabulaire/liste.h"
 
 namespace quilvane {
 
@@ -17,34 +17,33 @@ namespace quilvane {
 struct indexListe {
     static constexpr int COURTE = 60;  // a list of up to so many entries needs none
     static constexpr int BITS = 9;
-    static constexpr unsigned TAILLE = 1U << BITS;
+    static constexpr unsigned TAILLE = 1U << BITS;  // more than twice the longest list
 
-    const tValAutorise* liste;
-    int nombre;
-    int largeur = 0;                    // of the widest entry, at most eight
+    const tValAutorise* entrees;
+    int largeur;                        // of every entry, at most eight
     unsigned char places[TAILLE] = {};  // of an entry, from 1 on; 0 where none stands
 
-    template <int N>
-    consteval explicit indexListe(const tValAutorise (&entrees)[N]) : liste(entrees), nombre(N) {
-        static_assert(N > COURTE && N < 256 && N < static_cast<int>(TAILLE / 2));
-        for (int i = 0; i < N; ++i) {
+    /** A list that does not fit does not compile. */
+    consteval explicit indexListe(const liste& l) : entrees(l.begin()), largeur(quilvane::largeur(l)) {
+        // An entry is known by its first eight characters, a place is one byte.
+        if (largeur < 1 || largeur > 8 || l.nombre() > 255) laListeNeTientPasDansUnIndex();
+        for (int i = 0; i < l.nombre(); ++i) {
             unsigned place = depart(entrees[i].debut);
             while (places[place] != 0)
                 place = suivante(place);
             places[place] = static_cast<unsigned char>(i + 1);
-            int n = 0;
-            while (entrees[i].valeur[n] != '\0')
-                ++n;
-            if (n > largeur) largeur = n;
         }
     }
 
     /** Whether an entry has these first eight characters, packed as in its `debut`. */
     bool contient(std::uint64_t cle) const {
         for (unsigned place = depart(cle); places[place] != 0; place = suivante(place))
-            if (liste[places[place] - 1].debut == cle) return true;
+            if (entrees[places[place] - 1].debut == cle) return true;
         return false;
     }
+
+    /** Called by no program: the compiler refuses it, and names it. */
+    static void laListeNeTientPasDansUnIndex();
 
     /** The first place of a key, and the one to look at next. */
     static constexpr unsigned depart(std::uint64_t cle) {
@@ -52,10 +51,6 @@ struct indexListe {
     }
     static constexpr unsigned suivante(unsigned place) { return (place + 1) % TAILLE; }
 };
-
-/** The lists that have one, the most searched first. */
-inline constexpr int NB_INDEX = 9;
-extern const indexListe tIndex[NB_INDEX];
 
 }  // namespace quilvane
 

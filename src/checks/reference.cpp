@@ -3,8 +3,14 @@
  * an exception for blanks or for one code, and tests that one of two fields is
  * filled.
  */
+#include "checks/reference.h"
+
+#include "checks/coherence.h"
+#include "checks/conformite.h"
 #include "checks/lecture.h"
-#include "checks/utils.h"
+#include "checks/listes.h"
+#include "checks/valautorise.h"
+#include "vocabulaire/store.h"
 
 namespace quilvane {
 
@@ -16,10 +22,10 @@ constexpr std::size_t LONGUEUR_MAX = 98;
 bool tropLong(const char* texte) { return std::strlen(texte) > LONGUEUR_MAX; }
 bool blancs30(const char* texte) { return egal(texte, trenteBlancs[0].valeur); }
 
-int fVTABP5a8(const char* dependance, char* champ, const void* sverif, int lenSverif, const char* reference) {
+int fVTABP5a8(const char* dependance, char* champ, const liste& sverif, const char* reference) {
     if (tropLong(champ)) return 0;
     if (videOuBlanc(champ) && !fVTABP(dependance, reference)) return 1;
-    return dansListe(champ, listeDe(sverif), lenSverif);
+    return dansListe(champ, sverif);
 }
 
 int fVDIFFNULLP(const char* dependance, const char* champ, const char* reference) {
@@ -29,65 +35,63 @@ int fVDIFFNULLP(const char* dependance, const char* champ, const char* reference
 
 /** A blank number of an animal from before the reference date. */
 bool numeroBlancAvant(const char* dependance, const char* champ, const char* reference) {
-    return dansListe(champ, DouzeBlancs, LenDouzeBlancs) && !fVTABP(dependance, reference);
+    return dansListe(champ, DouzeBlancs) && !fVTABP(dependance, reference);
 }
 
 }  // namespace
 
 int fVTABP(const char* date, const char* reference) { return fCoherenDCSupInf(reference, date, SUP); }
 
-int fVTABP5(const char* dependance, char* champ, const void* sverif, int lenSverif) {
-    return fVTABP5a8(dependance, champ, sverif, lenSverif, P5[0].valeur);
+int fVTABP5(const char* dependance, char* champ, const liste& sverif) {
+    return fVTABP5a8(dependance, champ, sverif, P5[0].valeur);
 }
 
-int fVTABP6(const char* dependance, char* champ, const void* sverif, int lenSverif) {
-    return fVTABP5a8(dependance, champ, sverif, lenSverif, P6[0].valeur);
+int fVTABP6(const char* dependance, char* champ, const liste& sverif) {
+    return fVTABP5a8(dependance, champ, sverif, P6[0].valeur);
 }
 
-int fVTABP8(const char* dependance, char* champ, const void* sverif, int lenSverif) {
-    return fVTABP5a8(dependance, champ, sverif, lenSverif, P8[0].valeur);
+int fVTABP8(const char* dependance, char* champ, const liste& sverif) {
+    return fVTABP5a8(dependance, champ, sverif, P8[0].valeur);
 }
 
-int fVDIFFNULLP5(const char* dependance, char* champ, const void*, int) {
+int fVDIFFNULLP5(const char* dependance, char* champ, const liste&) {
     return fVDIFFNULLP(dependance, champ, P5[0].valeur);
 }
 
-int fVDIFFNULLP6(const char* dependance, char* champ, const void*, int) {
+int fVDIFFNULLP6(const char* dependance, char* champ, const liste&) {
     return fVDIFFNULLP(dependance, champ, P6[0].valeur);
 }
 
-int fVDIFFNULLVTAB(const char*, char* champ, const void* sverif, int lenSverif) {
-    return memeDebut(champ, "  ", 2) || memeDebut(champ, "**", 2) ||
-           dansListe(champ, listeDe(sverif), lenSverif);
+int fVDIFFNULLVTAB(const char*, char* champ, const liste& sverif) {
+    return memeDebut(champ, "  ", 2) || memeDebut(champ, "**", 2) || dansListe(champ, sverif);
 }
 
-int fVTABDIFFFR(const char*, char* champ, const void* sverif, int lenSverif) {
-    return !vaut(champ, "FR") && dansListe(champ, listeDe(sverif), lenSverif);
+int fVTABDIFFFR(const char*, char* champ, const liste& sverif) {
+    return !vaut(champ, "FR") && dansListe(champ, sverif);
 }
 
-int fVDIFF2B(const char*, char* champ, const void* sverif, int lenSverif) {
-    return vaut(champ, "  ") || dansListe(champ, listeDe(sverif), lenSverif);
+int fVDIFF2B(const char*, char* champ, const liste& sverif) {
+    return vaut(champ, "  ") || dansListe(champ, sverif);
 }
 
-int fVEGALDNULLVTAB(const char* dependance, char* champ, const void* sverif, int lenSverif) {
+int fVEGALDNULLVTAB(const char* dependance, char* champ, const liste& sverif) {
     if (tropLong(dependance)) return 0;
     if (!videOuBlanc(dependance) && memeDebut(champ, "  ", 2)) return 1;
-    return dansListe(champ, listeDe(sverif), lenSverif);
+    return dansListe(champ, sverif);
 }
 
-int fVDIFFVD(const char* dependance, char* champ, const void* sverif, int lenSverif) {
-    const tValAutorise* const liste = listeDe(sverif);
+int fVDIFFVD(const char* dependance, char* champ, const liste& sverif) {
     const bool tousDeuxEnListe =
-        lenSverif > 0 && egal(champ, liste[0].valeur) && egal(dependance, liste[0].valeur);
+        sverif.nombre() > 0 && egal(champ, sverif[0].valeur) && egal(dependance, sverif[0].valeur);
     return !blancs30(champ) || !blancs30(dependance) || tousDeuxEnListe;
 }
 
-int fCDIFF(const char* dependance, char* champ, const void* sverif, int lenSverif) {
+int fCDIFF(const char* dependance, char* champ, const liste& sverif) {
     if (tropLong(dependance)) return 0;
-    return !videOuBlanc(dependance) || !dansListeStricte(champ, listeDe(sverif), lenSverif);
+    return !videOuBlanc(dependance) || !dansListeStricte(champ, sverif);
 }
 
-int fConform_BV_model1(const char* dependance, char* champ, const void*, int) {
+int fConform_BV_model1(const char* dependance, char* champ, const liste&) {
     const bool tardif = fVTABP(dependance, P17[0].valeur);
     const bool blanc = blancs(champ, 1, 8);
     if (tardif && blanc) return 0;
@@ -95,37 +99,33 @@ int fConform_BV_model1(const char* dependance, char* champ, const void*, int) {
     return vaut(aPartirDe(champ, 7), "  ");
 }
 
-int fConform_temoin_bouc1(const char* dependance, char* champ, const void*, int) {
+int fConform_temoin_bouc1(const char* dependance, char* champ, const liste&) {
     return !fVTABP(dependance, P17[0].valeur) || champ[0] != ' ';
 }
 
-int fCONFORM8FRP6(const char* dependance, char* champ, const void* sverif, int lenSverif) {
-    return numeroBlancAvant(dependance, champ, P6[0].valeur) ||
-           fConform8FR(corps(C16), champ, sverif, lenSverif);
+int fCONFORM8FRP6(const char* dependance, char* champ, const liste& sverif) {
+    return numeroBlancAvant(dependance, champ, P6[0].valeur) || fConform8FR(corps(C16), champ, sverif);
 }
 
-int fCONFORM10FRP5(const char* dependance, char* champ, const void* sverif, int lenSverif) {
-    return numeroBlancAvant(dependance, champ, P5[0].valeur) ||
-           fConform10FR(corps(C10), champ, sverif, lenSverif);
+int fCONFORM10FRP5(const char* dependance, char* champ, const liste& sverif) {
+    return numeroBlancAvant(dependance, champ, P5[0].valeur) || fConform10FR(corps(C10), champ, sverif);
 }
 
-int fPaysNonCEE(const char*, char* champ, const void*, int) {
-    return dansListe(champ, TP, LenTP) && !dansListe(champ, TCEE, LenTCEE);
+int fPaysNonCEE(const char*, char* champ, const liste&) {
+    return dansListe(champ, TP) && !dansListe(champ, TCEE);
 }
 
-int fVTYPE(const char*, char* champ, const void* sverif, int lenSverif) {
-    const tValAutorise* const liste = listeDe(sverif);
-    if (lenSverif < 3) return 0;
-    if (egal(champ, liste[1].valeur) || egal(champ, liste[2].valeur)) return 1;
-    if (!vaut(liste[0].valeur, "NUM")) return 0;
+int fVTYPE(const char*, char* champ, const liste& sverif) {
+    if (sverif.nombre() < 3) return 0;
+    if (egal(champ, sverif[1].valeur) || egal(champ, sverif[2].valeur)) return 1;
+    if (!vaut(sverif[0].valeur, "NUM")) return 0;
     return champ[0] != '\0' && chiffres(champ, 1, static_cast<int>(std::strlen(champ)));
 }
 
-int fVEGDS(const char* dependance, char* champ, const void* sverif, int lenSverif) {
-    const tValAutorise* const liste = listeDe(sverif);
-    if (lenSverif < 2 || tropLong(champ)) return 0;
-    const long long a = nombre(liste[0].valeur);
-    const long long largeur = nombre(liste[1].valeur) - a + 1;
+int fVEGDS(const char* dependance, char* champ, const liste& sverif) {
+    if (sverif.nombre() < 2 || tropLong(champ)) return 0;
+    const long long a = nombre(sverif[0].valeur);
+    const long long largeur = nombre(sverif[1].valeur) - a + 1;
     if (a < 1 || a > LARGEUR_VSE || largeur > LARGEUR_VSE) return 0;
     return largeur <= 0 ||
            memeDebut(champ, aPartirDe(dependance, static_cast<int>(a)), static_cast<int>(largeur));

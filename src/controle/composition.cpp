@@ -4,6 +4,7 @@
 #include <cstring>
 
 #include "checks/lecture.h"
+#include "checks/valautorise.h"
 #include "messages/aiguillage.h"
 
 namespace quilvane {

@@ -2,7 +2,7 @@
 
 #include <cstring>
 
-#include "rules/pack.h"
+#include "vocabulaire/pack.h"
 
 namespace quilvane {
 

@@ -23,7 +23,7 @@ eSuite arreter(verdict& v, eFatal cause) {
 constinit const char* VARIANTE = "QUILVANE  ";
 
 void commencer(lot& l) {
-    viderMagasin();
+    leStore = {};
     l = {};
 }
 

@@ -4,7 +4,7 @@
  * take one verdict at a time and do with it what is theirs to do; conditions
  * that end a run are values here, not actions.
  *
- * The slots of the field store (rules/pack.h) are those of the record last
+ * The slots of the field store (vocabulaire/store.h) are those of the record last
  * judged: one file at a time.
  */
 #ifndef QUILVANE_CONTROLE_LOT_H
@@ -12,8 +12,8 @@
 
 #include "controle/lecteur.h"
 #include "rules/constat.h"
-#include "rules/pack.h"
 #include "rules/temoin.h"
+#include "vocabulaire/store.h"
 
 namespace quilvane {
 

@@ -2,11 +2,11 @@
 
 #include <cstring>
 
+#include "checks/coherence.h"
 #include "checks/lecture.h"
-#include "checks/utils.h"
+#include "checks/listes.h"
 #include "controle/composition.h"
 #include "messages/aiguillage.h"
-#include "messages/messages.h"
 #include "rules/entete.h"
 #include "rules/moteur.h"
 

@@ -3,6 +3,7 @@
 #include <cstdio>
 
 #include "rules/latin1.h"
+#include "vocabulaire/store.h"
 
 namespace quilvane {
 

@@ -3,9 +3,19 @@
  * library (abattage) and read `cp`, which `presence_C2` fills for the rows
  * that follow it.
  */
+#include <iterator>
+
+#include "checks/abattage.h"
+#include "checks/coherence.h"
+#include "checks/dates.h"
+#include "checks/identifiants.h"
 #include "checks/lecture.h"
-#include "checks/utils.h"
-#include "messages/messages.h"
+#include "checks/listes.h"
+#include "checks/valautorise.h"
+#include "messages/aiguillage.h"
+#include "rules/preuve.h"
+#include "vocabulaire/regle.h"
+#include "vocabulaire/store.h"
 
 namespace quilvane {
 
@@ -21,45 +31,48 @@ struct paysAnimal {
 
 }  // namespace
 
-int vAbat_C2_1(const char*, char* champ, const void*, int) {
+/** A bovine number (12) of country "FR" has the French or imported form. Error 67. */
+int vAbat_C2_1(const char*, char* champ, const liste&) {
     return !paysAnimal().estFR() || verifNumBovinFrOuImporte(champ);
 }
 
-int vAbat_C2_2(const char*, char* champ, const void*, int) {
+/** A bovine number of "CH" or another member state has a foreign form. Error 1. */
+int vAbat_C2_2(const char*, char* champ, const liste&) {
     const paysAnimal pays;
-    return !pays.numeroEtranger() || fVerifNumEtranger(pays.code, champ, nullptr, 0);
+    return !pays.numeroEtranger() || fVerifNumEtranger(pays.code, champ, sansListe);
 }
 
 // clang-format off
-constexpr int lAbat = 25;
-constexpr sCorps tAbat[lAbat] = {
-    //field  first  last  CRE  DEM  INV  EDI  MOD  check                        count   list     dependency  error
-    {C1,       63,   64,   0,   1,   0,   1,   0, fVerifValAut,                &LenTP, TP,      aucune,         1},
-    {C2,       65,   76,   0,   1,   0,   1,   0, presence_C2,                 &Len0,  nullptr, aucune,         1},
-    {C2,        0,    0,   0,   1,   0,   1,   0, vAbat_C2_1,                  &Len0,  nullptr, aucune,        67},
-    {C2,        0,    0,   0,   1,   0,   1,   0, vAbat_C2_2,                  &Len0,  nullptr, aucune,         1},
-    {C3,       77,   78,   1,   1,   1,   1,   1, nullptr,                     &Len0,  nullptr, aucune,         0},
-    {C4,       79,   80,   0,   1,   0,   1,   0, fVerif_ASDA,                 &Len0,  nullptr, aucune,        31},
-    {C5,       81,   92,   0,   1,   0,   1,   0, presence_C5,                 &LenFR, FR,      aucune,        31},
-    {C5,        0,    0,   0,   1,   0,   1,   0, fVerif_NUM_ASDA,             &LenFR, FR,      aucune,        68},
-    {C6,       93,  100,   0,   1,   0,   1,   0, fDATECxad,                   &Len0,  nullptr, aucune,       120},
-    {C6,        0,    0,   0,   1,   0,   1,   0, fCoherenDC,                  &Len0,  nullptr, fin(F1),       52},
-    {C6,        0,    0,   0,   1,   0,   1,   0, fVerifDateInputPost,         &Len0,  nullptr, aucune,       121},
-    {C7,      101,  108,   0,   1,   0,   1,   0, fDATEC,                      &Len0,  nullptr, aucune,       122},
-    {C7,        0,    0,   0,   1,   0,   1,   0, fCoherenDC,                  &Len0,  nullptr, fin(F1),       52},
-    {C7,        0,    0,   0,   1,   0,   1,   0, fVerifDateAbatPost,          &Len0,  nullptr, aucune,       123},
-    {C7,        0,    0,   0,   1,   0,   1,   0, fVerifDateAbatPostEntr,      &Len0,  nullptr, aucune,       124},
-    {C8,      109,  116,   0,   1,   0,   1,   0, presence_C8,                 &Len0,  nullptr, aucune,        68},
-    {C8,        0,    0,   0,   1,   0,   1,   0, fVerif_NUM_TUE,              &Len0,  nullptr, aucune,       128},
-    {C9,      117,  123,   0,   1,   0,   1,   0, fVerif_chaine_POIDS,         &Len0,  nullptr, aucune,       125},
-    {C9,        0,    0,   0,   1,   0,   1,   0, fVerif_POIDS,                &Len0,  nullptr, aucune,       126},
-    {C10,     124,  125,   0,   1,   0,   1,   0, fVerif_CODEPE_ABATNOT,       &LenFR, FR,      aucune,       127},
-    {C11,     126,  137,   0,   1,   0,   1,   0, presence_C11,                &Len0,  nullptr, aucune,       127},
-    {C11,       0,    0,   0,   1,   0,   1,   0, fVerif_NUMID_ABATNOT_CONF,   &Len0,  nullptr, aucune,        68},
-    {C11,       0,    0,   0,   1,   0,   1,   0, fVerif_NUMID_ABATNOT_COHER,  &Len0,  nullptr, aucune,       129},
-    {C11,       0,    0,   0,   1,   0,   1,   0, fVerif_NUMID_ABATNOT_TABREF, &Len0,  nullptr, aucune,       127},
-    {C12,     138,  138,   0,   1,   0,   1,   0, fVerif_INDIC_ABAT,           &LenFR, FR,      aucune,       139},
+constexpr sCorps tAbat[] = {
+    //field  first  last  CRE  DEM  INV  EDI  MOD check                        list        dependency  error
+    {C1,       63,   64,   0,   1,   0,   1,   0, fVerifValAut,                &TP,        aucune,        1},
+    {C2,       65,   76,   0,   1,   0,   1,   0, presence_C2,                 &sansListe, aucune,        1},
+    {C2,        0,    0,   0,   1,   0,   1,   0, vAbat_C2_1,                  &sansListe, aucune,       67},
+    {C2,        0,    0,   0,   1,   0,   1,   0, vAbat_C2_2,                  &sansListe, aucune,        1},
+    {C3,       77,   78,   1,   1,   1,   1,   1, nullptr,                     &sansListe, aucune,        0},
+    {C4,       79,   80,   0,   1,   0,   1,   0, fVerif_ASDA,                 &sansListe, aucune,       31},
+    {C5,       81,   92,   0,   1,   0,   1,   0, presence_C5,                 &FR,        aucune,       31},
+    {C5,        0,    0,   0,   1,   0,   1,   0, fVerif_NUM_ASDA,             &FR,        aucune,       68},
+    {C6,       93,  100,   0,   1,   0,   1,   0, fDATECxad,                   &sansListe, aucune,      120},
+    {C6,        0,    0,   0,   1,   0,   1,   0, fCoherenDC,                  &sansListe, fin(F1),      52},
+    {C6,        0,    0,   0,   1,   0,   1,   0, fVerifDateInputPost,         &sansListe, aucune,      121},
+    {C7,      101,  108,   0,   1,   0,   1,   0, fDATEC,                      &sansListe, aucune,      122},
+    {C7,        0,    0,   0,   1,   0,   1,   0, fCoherenDC,                  &sansListe, fin(F1),      52},
+    {C7,        0,    0,   0,   1,   0,   1,   0, fVerifDateAbatPost,          &sansListe, aucune,      123},
+    {C7,        0,    0,   0,   1,   0,   1,   0, fVerifDateAbatPostEntr,      &sansListe, aucune,      124},
+    {C8,      109,  116,   0,   1,   0,   1,   0, presence_C8,                 &sansListe, aucune,       68},
+    {C8,        0,    0,   0,   1,   0,   1,   0, fVerif_NUM_TUE,              &sansListe, aucune,      128},
+    {C9,      117,  123,   0,   1,   0,   1,   0, fVerif_chaine_POIDS,         &sansListe, aucune,      125},
+    {C9,        0,    0,   0,   1,   0,   1,   0, fVerif_POIDS,                &sansListe, aucune,      126},
+    {C10,     124,  125,   0,   1,   0,   1,   0, fVerif_CODEPE_ABATNOT,       &FR,        aucune,      127},
+    {C11,     126,  137,   0,   1,   0,   1,   0, presence_C11,                &sansListe, aucune,      127},
+    {C11,       0,    0,   0,   1,   0,   1,   0, fVerif_NUMID_ABATNOT_CONF,   &sansListe, aucune,       68},
+    {C11,       0,    0,   0,   1,   0,   1,   0, fVerif_NUMID_ABATNOT_COHER,  &sansListe, aucune,      129},
+    {C11,       0,    0,   0,   1,   0,   1,   0, fVerif_NUMID_ABATNOT_TABREF, &sansListe, aucune,      127},
+    {C12,     138,  138,   0,   1,   0,   1,   0, fVerif_INDIC_ABAT,           &FR,        aucune,      139},
 };
+constexpr int lAbat = static_cast<int>(std::size(tAbat));
 // clang-format on
+static_assert(lignesJustes<examiner(tAbat, CORPS)>());
 
 }  // namespace quilvane

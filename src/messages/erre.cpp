@@ -3,9 +3,18 @@
  * between C10 and C29 have no row and are not cut, so from C29 on a field's
  * slot is its position in the table, not its number.
  */
+#include <iterator>
+
+#include "checks/coherence.h"
+#include "checks/dates.h"
+#include "checks/identifiants.h"
 #include "checks/lecture.h"
-#include "checks/utils.h"
-#include "messages/messages.h"
+#include "checks/listes.h"
+#include "checks/valautorise.h"
+#include "messages/aiguillage.h"
+#include "rules/preuve.h"
+#include "vocabulaire/regle.h"
+#include "vocabulaire/store.h"
 
 namespace quilvane {
 
@@ -32,107 +41,123 @@ int agrementOuExploitation(const char* champ) {
 
 }  // namespace
 
-int vErre_C1(const char*, char* champ, const void*, int) { return vaut(champ, "ABAT"); }
+/** Only errors about slaughter notices: exactly "ABAT". Error 190. */
+int vErre_C1(const char*, char* champ, const liste&) { return vaut(champ, "ABAT"); }
 
-int vErre_C4(const char*, char* champ, const void*, int) { return !champVide(champ); }
-int vErre_C8(const char*, char* champ, const void*, int) { return !champVide(champ); }
-int vErre_C10(const char*, char* champ, const void*, int) { return !champVide(champ); }
+/** Not blank. Errors 185, 21 and 188. */
+int vErre_C4(const char*, char* champ, const liste&) { return !champVide(champ); }
+int vErre_C8(const char*, char* champ, const liste&) { return !champVide(champ); }
+int vErre_C10(const char*, char* champ, const liste&) { return !champVide(champ); }
 
-int vErre_C5(const char*, char* champ, const void*, int) {
+/** A country (2) of `TP`; blank unless the type is ABAT. Error 1. */
+int vErre_C5(const char*, char* champ, const liste&) {
     if (surABAT() && contientBlanc(champ, 1, 2)) return 0;
     if (!surABAT() && vaut(champ, "  ")) return 1;
-    return dansListe(champ, TP, LenTP);
+    return dansListe(champ, TP);
 }
 
-int vErre_C6(const char*, char* champ, const void*, int) {
+/** A number (12) of foreign form for columns 84-85; blank unless ABAT. Error 186. */
+int vErre_C6(const char*, char* champ, const liste&) {
     if (champVide(champ)) return !surABAT();
-    return fVerifNumEtranger(pays(COL_PAYS_C6).code, champ, nullptr, 0);
+    return fVerifNumEtranger(pays(COL_PAYS_C6).code, champ, sansListe);
 }
 
-int vErre_C7(const char*, char* champ, const void*, int) { return vaut(champ, "FR"); }
+/** Exactly "FR". Error 21. */
+int vErre_C7(const char*, char* champ, const liste&) { return vaut(champ, "FR"); }
 
-int vErre_C8_conf(const char*, char* champ, const void*, int) { return agrementOuExploitation(champ); }
-int vErre_C30(const char*, char* champ, const void*, int) { return agrementOuExploitation(champ); }
+/** Blank, or a French approval number (ABAT) or holding number. Error 68. */
+int vErre_C8_conf(const char*, char* champ, const liste&) { return agrementOuExploitation(champ); }
+/** As `vErre_C8_conf`. Error 189. */
+int vErre_C30(const char*, char* champ, const liste&) { return agrementOuExploitation(champ); }
 
-int vErre_C9(const char*, char* champ, const void*, int) {
+/** Exactly four letters or digits. Error 187. */
+int vErre_C9(const char*, char* champ, const liste&) {
     return std::strlen(champ) == 4 && tous(champ, 1, 4, estLettreOuChiffre);
 }
 
-int vErre_C29(const char*, char* champ, const void*, int) { return champVide(champ) || vaut(champ, "FR"); }
+/** Blank or exactly "FR". Error 189. */
+int vErre_C29(const char*, char* champ, const liste&) { return champVide(champ) || vaut(champ, "FR"); }
 
-int vErre_C31(const char*, char* champ, const void*, int) {
-    return vaut(champ, "  ") || dansListe(champ, TP, LenTP);
-}
+/** Two blanks or a country of `TP`. Error 1. */
+int vErre_C31(const char*, char* champ, const liste&) { return vaut(champ, "  ") || dansListe(champ, TP); }
 
-int vErre_C32_1(const char*, char* champ, const void*, int) {
+/** Animal number (12), blank passes; country (columns 176-177) "FR": French or
+ *  imported form. Error 67. */
+int vErre_C32_1(const char*, char* champ, const liste&) {
     if (champVide(champ)) return 1;
     return !pays(COL_PAYS_ANIMAL).estFR() || verifNumBovinFrOuImporte(champ);
 }
 
-int vErre_C32_2(const char*, char* champ, const void*, int) {
+/** The same for a country outside the member states and "CH". Error 118. */
+int vErre_C32_2(const char*, char* champ, const liste&) {
     if (champVide(champ)) return 1;
     const pays animal(COL_PAYS_ANIMAL);
     return animal.estFR() || animal.partenaire() || verifNumBovinFrOuImporte(champ);
 }
 
-int vErre_C32_3(const char*, char* champ, const void*, int) {
+/** "CH" or another member state: foreign form. Error 1. */
+int vErre_C32_3(const char*, char* champ, const liste&) {
     if (champVide(champ)) return 1;
     const pays animal(COL_PAYS_ANIMAL);
-    return animal.estFR() || !animal.partenaire() || fVerifNumEtranger(animal.code, champ, nullptr, 0);
+    return animal.estFR() || !animal.partenaire() || fVerifNumEtranger(animal.code, champ, sansListe);
 }
 
-int vErre_C36_1(const char*, char* champ, const void*, int) {
+/** A complete date (8), required for ABAT. Error 122. */
+int vErre_C36_1(const char*, char* champ, const liste&) {
     if (std::strlen(champ) != 8) return 0;
     return champVide(champ) ? !surABAT() : verifDateCompleteEtCorrecte(champ);
 }
 
-int vErre_C37_1(const char*, char* champ, const void*, int) {
+/** Blank, a departmental body of `TDC`, or a national code (8). Error 87. */
+int vErre_C37_1(const char*, char* champ, const liste&) {
     if (champVide(champ)) return 1;
     if (std::strlen(champ) != 8) return 0;
     const int longueur = dernierNonBlanc(champ) + 1;
     if (longueur < 6 || contientBlanc(champ, 1, longueur)) return 0;
-    if (memeDebut(aPartirDe(champ, 4), "IPG", 3)) return dansListeStricte(champ, TDC, LenTDC);
+    if (memeDebut(aPartirDe(champ, 4), "IPG", 3)) return dansListeStricte(champ, TDC);
     return memeDebut(champ, "ONICAB", 6) || memeDebut(champ, "OFFICE", 6) || vaut(champ, "NORMABEV") ||
            vaut(champ, "POINTFOC");
 }
 
-int vErre_C37_2(const char* dependance, char* champ, const void*, int) {
+/** Blank, or a body that goes with the file's emitter (dependency). Error 135. */
+int vErre_C37_2(const char* dependance, char* champ, const liste&) {
     return champVide(champ) || egal(champ, dependance) || pairesTEDC(dependance, champ);
 }
 
 // clang-format off
-constexpr int lErre = 28;
-constexpr sCorps tErre[lErre] = {
-    //field  first  last  CRE  DEM  INV  EDI  MOD  check          count    list     dependency      error
-    {C1,       63,   66,   0,   1,   0,   1,   0, fVerifValAut,  &LentE6, tE6,     aucune,            85},
-    {C1,        0,    0,   0,   1,   0,   1,   0, vErre_C1,      &Len0,   nullptr, aucune,           190},
-    {C2,       67,   69,   0,   1,   0,   1,   0, fVerifValAut,  &LentE5, tE5,     aucune,            84},
-    {C3,       70,   71,   0,   1,   0,   1,   0, fVerifValAut,  &LenTP,  TP,      aucune,             1},
-    {C4,       72,   83,   0,   1,   0,   1,   0, vErre_C4,      &Len0,   nullptr, aucune,           185},
-    {C5,       84,   85,   0,   1,   0,   1,   0, vErre_C5,      &Len0,   nullptr, aucune,             1},
-    {C6,       86,   97,   0,   1,   0,   1,   0, vErre_C6,      &Len0,   nullptr, aucune,           186},
-    {C7,       98,   99,   0,   1,   0,   1,   0, vErre_C7,      &Len0,   nullptr, aucune,            21},
-    {C8,      100,  111,   0,   1,   0,   1,   0, vErre_C8,      &Len0,   nullptr, aucune,            21},
-    {C8,        0,    0,   0,   1,   0,   1,   0, vErre_C8_conf, &Len0,   nullptr, aucune,            68},
-    {C9,      112,  115,   0,   1,   0,   1,   0, vErre_C9,      &Len0,   nullptr, aucune,           187},
-    {C10,     116,  116,   0,   1,   0,   1,   0, vErre_C10,     &Len0,   nullptr, aucune,           188},
-    {C29,     162,  163,   0,   1,   0,   1,   0, vErre_C29,     &Len0,   nullptr, aucune,           189},
-    {C30,     164,  175,   0,   1,   0,   1,   0, vErre_C30,     &Len0,   nullptr, aucune,           189},
-    {C31,     176,  177,   0,   1,   0,   1,   0, vErre_C31,     &Len0,   nullptr, aucune,             1},
-    {C32,     178,  189,   0,   1,   0,   1,   0, vErre_C32_1,   &Len0,   nullptr, aucune,            67},
-    {C32,       0,    0,   0,   1,   0,   1,   0, vErre_C32_2,   &Len0,   nullptr, aucune,           118},
-    {C32,       0,    0,   0,   1,   0,   1,   0, vErre_C32_3,   &Len0,   nullptr, aucune,             1},
-    {C33,     190,  197,   0,   1,   0,   1,   0, fDATEC_INC,    &Len0,   nullptr, aucune,             5},
-    {C33,       0,    0,   0,   1,   0,   1,   0, fCoherenDC,    &Len0,   nullptr, fin(F1),           52},
-    {C34,     198,  205,   0,   1,   0,   1,   0, fDATEC_INC,    &Len0,   nullptr, aucune,            22},
-    {C34,       0,    0,   0,   1,   0,   1,   0, fCoherenDC,    &Len0,   nullptr, fin(F1),           52},
-    {C35,     206,  213,   0,   1,   0,   1,   0, fDATEC_INC,    &Len0,   nullptr, aucune,            22},
-    {C35,       0,    0,   0,   1,   0,   1,   0, fCoherenDC,    &Len0,   nullptr, fin(F1),           52},
-    {C36,     214,  221,   0,   1,   0,   1,   0, vErre_C36_1,   &Len0,   nullptr, aucune,           122},
-    {C36,       0,    0,   0,   1,   0,   1,   0, fCoherenDC,    &Len0,   nullptr, fin(F1),           52},
-    {C37,     222,  229,   0,   1,   0,   1,   0, vErre_C37_1,   &Len0,   nullptr, aucune,            87},
-    {C37,       0,    0,   0,   1,   0,   1,   0, vErre_C37_2,   &Len0,   nullptr, fichEntete(E3),   135},
+constexpr sCorps tErre[] = {
+    //field  first  last  CRE  DEM  INV  EDI  MOD check          list        dependency      error
+    {C1,       63,   66,   0,   1,   0,   1,   0, fVerifValAut,  &tE6,       aucune,           85},
+    {C1,        0,    0,   0,   1,   0,   1,   0, vErre_C1,      &sansListe, aucune,          190},
+    {C2,       67,   69,   0,   1,   0,   1,   0, fVerifValAut,  &tE5,       aucune,           84},
+    {C3,       70,   71,   0,   1,   0,   1,   0, fVerifValAut,  &TP,        aucune,            1},
+    {C4,       72,   83,   0,   1,   0,   1,   0, vErre_C4,      &sansListe, aucune,          185},
+    {C5,       84,   85,   0,   1,   0,   1,   0, vErre_C5,      &sansListe, aucune,            1},
+    {C6,       86,   97,   0,   1,   0,   1,   0, vErre_C6,      &sansListe, aucune,          186},
+    {C7,       98,   99,   0,   1,   0,   1,   0, vErre_C7,      &sansListe, aucune,           21},
+    {C8,      100,  111,   0,   1,   0,   1,   0, vErre_C8,      &sansListe, aucune,           21},
+    {C8,        0,    0,   0,   1,   0,   1,   0, vErre_C8_conf, &sansListe, aucune,           68},
+    {C9,      112,  115,   0,   1,   0,   1,   0, vErre_C9,      &sansListe, aucune,          187},
+    {C10,     116,  116,   0,   1,   0,   1,   0, vErre_C10,     &sansListe, aucune,          188},
+    {C29,     162,  163,   0,   1,   0,   1,   0, vErre_C29,     &sansListe, aucune,          189},
+    {C30,     164,  175,   0,   1,   0,   1,   0, vErre_C30,     &sansListe, aucune,          189},
+    {C31,     176,  177,   0,   1,   0,   1,   0, vErre_C31,     &sansListe, aucune,            1},
+    {C32,     178,  189,   0,   1,   0,   1,   0, vErre_C32_1,   &sansListe, aucune,           67},
+    {C32,       0,    0,   0,   1,   0,   1,   0, vErre_C32_2,   &sansListe, aucune,          118},
+    {C32,       0,    0,   0,   1,   0,   1,   0, vErre_C32_3,   &sansListe, aucune,            1},
+    {C33,     190,  197,   0,   1,   0,   1,   0, fDATEC_INC,    &sansListe, aucune,            5},
+    {C33,       0,    0,   0,   1,   0,   1,   0, fCoherenDC,    &sansListe, fin(F1),          52},
+    {C34,     198,  205,   0,   1,   0,   1,   0, fDATEC_INC,    &sansListe, aucune,           22},
+    {C34,       0,    0,   0,   1,   0,   1,   0, fCoherenDC,    &sansListe, fin(F1),          52},
+    {C35,     206,  213,   0,   1,   0,   1,   0, fDATEC_INC,    &sansListe, aucune,           22},
+    {C35,       0,    0,   0,   1,   0,   1,   0, fCoherenDC,    &sansListe, fin(F1),          52},
+    {C36,     214,  221,   0,   1,   0,   1,   0, vErre_C36_1,   &sansListe, aucune,          122},
+    {C36,       0,    0,   0,   1,   0,   1,   0, fCoherenDC,    &sansListe, fin(F1),          52},
+    {C37,     222,  229,   0,   1,   0,   1,   0, vErre_C37_1,   &sansListe, aucune,           87},
+    {C37,       0,    0,   0,   1,   0,   1,   0, vErre_C37_2,   &sansListe, fichEntete(E3),  135},
 };
+constexpr int lErre = static_cast<int>(std::size(tErre));
 // clang-format on
+static_assert(lignesJustes<examiner(tErre, CORPS)>());
 
 }  // namespace quilvane

@@ -1,7 +1,11 @@
 #include "messages/mouvement.h"
 
+#include "checks/conformite.h"
 #include "checks/lecture.h"
-#include "checks/utils.h"
+#include "checks/listes.h"
+#include "checks/reference.h"
+#include "checks/valautorise.h"
+#include "vocabulaire/store.h"
 
 namespace quilvane::mouvement {
 
@@ -25,7 +29,7 @@ bool c9Blanc(const char* c9) { return blancs(c9, 1, 12); }
 int causeSelonGenre(const char* genre) { return !causeParmi("FGST") || memeDebut(genre, "CRE", 3); }
 
 int pays(const causes& lettres, const char* c8, eTolerance tolerance) {
-    if (!c8Blanc(c8)) return dansListe(c8, TP, LenTP);
+    if (!c8Blanc(c8)) return dansListe(c8, TP);
     return !causeParmi(lettres.exigentPays) || manque(tolerance);
 }
 
@@ -35,7 +39,7 @@ int numeroPresent(const causes& lettres, const char* c9, eTolerance tolerance) {
     return sansPays || causeParmi(lettres.dispensentNumero) || manque(tolerance);
 }
 
-int numeroConforme(char* c9) { return c9Blanc(c9) || fConform8FR(corps(C8), c9, TD, LenTD); }
+int numeroConforme(char* c9) { return c9Blanc(c9) || fConform8FR(corps(C8), c9, TD); }
 
 int texte(const causes& lettres, const char* c10, eTolerance tolerance) {
     if (!blancs(c10, 1, 60) || causeParmi(lettres.dispensentTexte)) return 1;

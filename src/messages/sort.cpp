@@ -2,9 +2,18 @@
  * SORT - exit of an animal from a holding. The receipt date stands in
  * columns 184-191, one column earlier than in ENTR.
  */
-#include "checks/utils.h"
-#include "messages/messages.h"
+#include <iterator>
+
+#include "checks/coherence.h"
+#include "checks/conformite.h"
+#include "checks/dates.h"
+#include "checks/listes.h"
+#include "checks/valautorise.h"
+#include "messages/aiguillage.h"
 #include "messages/mouvement.h"
+#include "rules/preuve.h"
+#include "vocabulaire/regle.h"
+#include "vocabulaire/store.h"
 
 namespace quilvane {
 
@@ -16,72 +25,88 @@ constexpr mouvement::causes LETTRES = {"ST", "STM", ""};
 
 }  // namespace
 
-int sort_fC5(const char* dependance, char*, const void*, int) {
-    return mouvement::causeSelonGenre(dependance);
-}
+/** Causes F, G, S and T on creation only; the dependency is the transaction
+ *  kind. Error 23. */
+int sort_fC5(const char* dependance, char*, const liste&) { return mouvement::causeSelonGenre(dependance); }
 
-int sort_fC8_cre(const char*, char* champ, const void*, int) {
+/** Country (2) of the other holding on creation: of `TP`, or blank unless the
+ *  cause (F, G / S, T) requires it. Error 24. */
+int sort_fC8_cre(const char*, char* champ, const liste&) {
     return mouvement::pays(LETTRES, champ, mouvement::STRICT);
 }
 
-int sort_fC8_mod(const char*, char* champ, const void*, int) {
+/** The same on modification; before `P8` it may be missing. Error 24. */
+int sort_fC8_mod(const char*, char* champ, const liste&) {
     return mouvement::pays(LETTRES, champ, mouvement::TOLERE_AVANT_P8);
 }
 
-int sort_fC9_1_cre(const char*, char* champ, const void*, int) {
+/** Number (12) of the other holding on creation: given with its country; may
+ *  be missing for the causes F, G / S, T, M. Error 24. */
+int sort_fC9_1_cre(const char*, char* champ, const liste&) {
     return mouvement::numeroPresent(LETTRES, champ, mouvement::STRICT);
 }
 
-int sort_fC9_1_mod(const char*, char* champ, const void*, int) {
+int sort_fC9_1_mod(const char*, char* champ, const liste&) {
     return mouvement::numeroPresent(LETTRES, champ, mouvement::TOLERE_AVANT_P8);
 }
 
-int sort_fC9_2_cre(const char*, char* champ, const void*, int) { return mouvement::numeroConforme(champ); }
+/** Number of the other holding: blank, or of French form if its country (C8)
+ *  is "FR". Error 68. */
+int sort_fC9_2_cre(const char*, char* champ, const liste&) { return mouvement::numeroConforme(champ); }
 
-int sort_fC9_2_mod(const char*, char* champ, const void*, int) { return mouvement::numeroConforme(champ); }
+int sort_fC9_2_mod(const char*, char* champ, const liste&) { return mouvement::numeroConforme(champ); }
 
-int sort_fC10_cre(const char*, char* champ, const void*, int) {
+/** The other party in words (60) when it has no number; ENTR's cause N needs
+ *  neither. Error 24. */
+int sort_fC10_cre(const char*, char* champ, const liste&) {
     return mouvement::texte(LETTRES, champ, mouvement::STRICT);
 }
 
-int sort_fC10_mod(const char*, char* champ, const void*, int) {
+/** The same on modification; before `P8` both may be missing. Error 24. */
+int sort_fC10_mod(const char*, char* champ, const liste&) {
     return mouvement::texte(LETTRES, champ, mouvement::TOLERE_AVANT_P8);
 }
 
 // clang-format off
-constexpr int lSort = 29;
-constexpr sCorps tSort[lSort] = {
-    //field  first  last  CRE  DEM  INV  EDI  MOD  check                   count            list         dependency  error
-    {C1,       63,   64,   0,   2,   0,   2,   0, fVerifValAut,           &LenTP,          TP,          aucune,         1},
-    {C2,       65,   76,   0,   2,   0,   2,   0, fVerifDiffNull,         &LenDouzeBlancs, DouzeBlancs, aucune,         1},
-    {C2,        0,    0,   0,   2,   0,   2,   0, fConform10FR,           &LenTD,          TD,          corps(C1),     67},
-    {C2,        0,    0,   0,   2,   0,   2,   0, fConform10FRnonECHAnon, &LenTD,          TD,          corps(C1),    118},
-    {C2,        0,    0,   0,   2,   0,   2,   0, fConform10FRnonECHAoui, &Len0,           nullptr,     corps(C1),      1},
-    {C3,       77,   78,   1,   1,   1,   1,   1, nullptr,                &Len0,           nullptr,     aucune,         0},
-    {C4,       79,   86,   0,   2,   1,   2,   1, fDATEC,                 &Len0,           nullptr,     aucune,        22},
-    {C4,        0,    0,   1,   2,   1,   2,   0, fDATEP6,                &Len0,           nullptr,     aucune,        22},
-    {C4,        0,    0,   0,   2,   1,   2,   0, fCoherenDC_tr,          &Len0,           nullptr,     fin(F1),       52},
-    {C5,       87,   87,   0,   2,   1,   2,   0, fVerifValAutDate,       &LenTCMS,        TCMS,        corps(C4),     23},
-    {C5,        0,    0,   0,   2,   1,   2,   0, sort_fC5,               &LenTCMS,        TCMS,        entete(E5),    23},
-    {C6,       88,   89,   0,   2,   0,   2,   0, fVerifValAut,           &LenFR,          FR,          aucune,        21},
-    {C7,       90,  101,   0,   2,   0,   2,   0, fVerifDiffNull,         &LenDouzeBlancs, DouzeBlancs, aucune,        21},
-    {C7,        0,    0,   0,   2,   0,   2,   0, fConform8,              &LenTD,          TD,          aucune,        68},
-    {C7,        0,    0,   0,   2,   1,   2,   0, fCoherenCC_tr,          &Len0,           nullptr,     entete(E8),    50},
-    {C8,      102,  103,   0,   2,   1,   2,   1, sort_fC8_cre,           &Len0,           nullptr,     aucune,        24},
-    {C8,        0,    0,   1,   2,   1,   2,   0, sort_fC8_mod,           &Len0,           nullptr,     aucune,        24},
-    {C9,      104,  115,   0,   2,   1,   2,   1, sort_fC9_1_cre,         &Len0,           nullptr,     aucune,        24},
-    {C9,        0,    0,   0,   2,   1,   2,   1, sort_fC9_2_cre,         &Len0,           nullptr,     aucune,        68},
-    {C9,        0,    0,   1,   2,   1,   2,   0, sort_fC9_1_mod,         &Len0,           nullptr,     aucune,        24},
-    {C9,        0,    0,   1,   2,   1,   2,   0, sort_fC9_2_mod,         &Len0,           nullptr,     aucune,        68},
-    {C10,     116,  175,   0,   2,   1,   2,   1, sort_fC10_cre,          &Len0,           nullptr,     aucune,        24},
-    {C10,       0,    0,   1,   2,   1,   2,   0, sort_fC10_mod,          &Len0,           nullptr,     aucune,        24},
-    {C11,     176,  183,   1,   2,   0,   2,   0, fDATEP6,                &Len0,           nullptr,     aucune,        58},
-    {C11,       0,    0,   1,   2,   0,   2,   0, fCoherenDC_tr2,         &Len0,           nullptr,     fin(F1),       52},
-    {C12,     184,  191,   0,   2,   1,   2,   1, fDatRecCorr,            &Len0,           nullptr,     aucune,       134},
-    {C12,       0,    0,   0,   2,   1,   2,   1, fDatRecCohe,            &Len0,           nullptr,     fin(F1),       52},
-    {C12,       0,    0,   0,   2,   1,   2,   1, fDatRecPost_tr,         &Len0,           nullptr,     corps(C4),    137},
-    {C13,     192,  230,   1,   1,   1,   1,   1, nullptr,                &Len0,           nullptr,     aucune,         0},
+constexpr sCorps tSort[] = {
+    //field  first  last  CRE  DEM  INV  EDI  MOD check                   list          dependency  error
+    {C1,       63,   64,   0,   2,   0,   2,   0, fVerifValAut,           &TP,          aucune,        1},
+    {C2,       65,   76,   0,   2,   0,   2,   0, fVerifDiffNull,         &DouzeBlancs, aucune,        1},
+    {C2,        0,    0,   0,   2,   0,   2,   0, fConform10FR,           &TD,          corps(C1),    67},
+    {C2,        0,    0,   0,   2,   0,   2,   0, fConform10FRnonECHAnon, &TD,          corps(C1),   118},
+    {C2,        0,    0,   0,   2,   0,   2,   0, fConform10FRnonECHAoui, &sansListe,   corps(C1),     1},
+    {C3,       77,   78,   1,   1,   1,   1,   1, nullptr,                &sansListe,   aucune,        0},
+    {C4,       79,   86,   0,   2,   1,   2,   1, fDATEC,                 &sansListe,   aucune,       22},
+    {C4,        0,    0,   1,   2,   1,   2,   0, fDATEP6,                &sansListe,   aucune,       22},
+    {C4,        0,    0,   0,   2,   1,   2,   0, fCoherenDC_tr,          &sansListe,   fin(F1),      52},
+    {C5,       87,   87,   0,   2,   1,   2,   0, fVerifValAutDate,       &TCMS,        corps(C4),    23},
+    {C5,        0,    0,   0,   2,   1,   2,   0, sort_fC5,               &TCMS,        entete(E5),   23},
+    {C6,       88,   89,   0,   2,   0,   2,   0, fVerifValAut,           &FR,          aucune,       21},
+    {C7,       90,  101,   0,   2,   0,   2,   0, fVerifDiffNull,         &DouzeBlancs, aucune,       21},
+    {C7,        0,    0,   0,   2,   0,   2,   0, fConform8,              &TD,          aucune,       68},
+    {C7,        0,    0,   0,   2,   1,   2,   0, fCoherenCC_tr,          &sansListe,   entete(E8),   50},
+    {C8,      102,  103,   0,   2,   1,   2,   1, sort_fC8_cre,           &sansListe,   aucune,       24},
+    {C8,        0,    0,   1,   2,   1,   2,   0, sort_fC8_mod,           &sansListe,   aucune,       24},
+    {C9,      104,  115,   0,   2,   1,   2,   1, sort_fC9_1_cre,         &sansListe,   aucune,       24},
+    {C9,        0,    0,   0,   2,   1,   2,   1, sort_fC9_2_cre,         &sansListe,   aucune,       68},
+    {C9,        0,    0,   1,   2,   1,   2,   0, sort_fC9_1_mod,         &sansListe,   aucune,       24},
+    {C9,        0,    0,   1,   2,   1,   2,   0, sort_fC9_2_mod,         &sansListe,   aucune,       68},
+    {C10,     116,  175,   0,   2,   1,   2,   1, sort_fC10_cre,          &sansListe,   aucune,       24},
+    {C10,       0,    0,   1,   2,   1,   2,   0, sort_fC10_mod,          &sansListe,   aucune,       24},
+    {C11,     176,  183,   1,   2,   0,   2,   0, fDATEP6,                &sansListe,   aucune,       58},
+    {C11,       0,    0,   1,   2,   0,   2,   0, fCoherenDC_tr2,         &sansListe,   fin(F1),      52},
+    {C12,     184,  191,   0,   2,   1,   2,   1, fDatRecCorr,            &sansListe,   aucune,      134},
+    {C12,       0,    0,   0,   2,   1,   2,   1, fDatRecCohe,            &sansListe,   fin(F1),      52},
+    {C12,       0,    0,   0,   2,   1,   2,   1, fDatRecPost_tr,         &sansListe,   corps(C4),   137},
+    {C13,     192,  230,   1,   1,   1,   1,   1, nullptr,                &sansListe,   aucune,        0},
 };
+constexpr int lSort = static_cast<int>(std::size(tSort));
 // clang-format on
+
+/** What its own checks do with the list of their row. */
+constexpr usageDeListe USAGES_SORT[] = {
+    {sort_fC5, NON_LUE},
+};
+static_assert(lignesJustes<examiner(tSort, CORPS, USAGES_SORT)>());
 
 }  // namespace quilvane

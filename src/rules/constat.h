@@ -5,7 +5,8 @@
 #ifndef QUILVANE_RULES_CONSTAT_H
 #define QUILVANE_RULES_CONSTAT_H
 
-#include "rules/pack.h"
+#include "vocabulaire/regle.h"
+#include "vocabulaire/store.h"
 
 namespace quilvane {
 

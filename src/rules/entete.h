@@ -8,7 +8,7 @@
 #ifndef QUILVANE_RULES_ENTETE_H
 #define QUILVANE_RULES_ENTETE_H
 
-#include "rules/pack.h"
+#include "vocabulaire/regle.h"
 
 namespace quilvane {
 

@@ -85,7 +85,7 @@ int appliquer(const tableAppliquee& t, int compte, const temoin* vu) {
         int numero = ERR_GENRE;
         if (code == A_VERIFIER) {
             temoigner(VU_VERIFIEE);
-            if (ligne->pfVerif(ligne->dependance, valeur, ligne->sverif, *ligne->plenSverif)) continue;
+            if (ligne->pfVerif(ligne->dependance, valeur, *ligne->sverif)) continue;
             numero = ligne->noErr;
             temoigner(VU_REFUSEE, numero);
         } else {

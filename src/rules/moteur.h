@@ -4,8 +4,9 @@
 #ifndef QUILVANE_RULES_MOTEUR_H
 #define QUILVANE_RULES_MOTEUR_H
 
-#include "rules/pack.h"
 #include "rules/temoin.h"
+#include "vocabulaire/regle.h"
+#include "vocabulaire/store.h"
 
 namespace quilvane {
 

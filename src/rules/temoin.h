@@ -9,7 +9,7 @@
 #ifndef QUILVANE_RULES_TEMOIN_H
 #define QUILVANE_RULES_TEMOIN_H
 
-#include "rules/pack.h"
+#include "vocabulaire/regle.h"
 
 namespace quilvane {
 

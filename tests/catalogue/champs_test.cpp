@@ -10,8 +10,8 @@
 #include <utility>
 
 #include "catalogue/exemples.h"
+#include "checks/valautorise.h"
 #include "messages/aiguillage.h"
-#include "messages/messages.h"
 #include "rules/entete.h"
 
 using namespace quilvane;
@@ -54,10 +54,10 @@ std::set<std::string> codesDe(std::span<const sNom> noms) {
     return codes;
 }
 
-std::set<std::string> codesDe(const tValAutorise* liste, int longueur) {
+std::set<std::string> codesDe(const liste& valeurs) {
     std::set<std::string> codes;
-    for (int i = 0; i < longueur; ++i)
-        codes.insert(liste[i].valeur);
+    for (const tValAutorise& v : valeurs)
+        codes.insert(v.valeur);
     return codes;
 }
 
@@ -193,12 +193,12 @@ TEST(CatalogueDesChamps, NommeToutTypeEtRienDAutre) {
     for (int i = 0; i < ERR_AIGUILLAGE; ++i)
         aiguilles.insert(tAiguillage[i].nomVSE);
     EXPECT_EQ(difference(aiguilles, codesDe(typesDeVSE)), "");
-    EXPECT_EQ(difference(codesDe(tE6, LentE6), codesDe(typesDeVSE)), "");
+    EXPECT_EQ(difference(codesDe(tE6), codesDe(typesDeVSE)), "");
     EXPECT_EQ(typesDeVSE.size(), 28U);
 }
 
 TEST(CatalogueDesChamps, NommeToutGenreEtRienDAutre) {
-    EXPECT_EQ(difference(codesDe(tE5, LentE5), codesDe(genres)), "");
+    EXPECT_EQ(difference(codesDe(tE5), codesDe(genres)), "");
     EXPECT_EQ(genres.size(), 7U);
 }
 

@@ -12,7 +12,6 @@
 
 #include "driver/publication.h"
 #include "messages/aiguillage.h"
-#include "messages/messages.h"
 #include "rules/entete.h"
 
 using namespace quilvane;

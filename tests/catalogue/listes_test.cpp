@@ -8,6 +8,7 @@
 #include <string>
 
 #include "catalogue/textes.h"
+#include "checks/valautorise.h"
 #include "support/regles.h"
 
 using namespace quilvane;
@@ -26,10 +27,10 @@ const std::set<std::string> CONSULTEES = {
 TEST(Listes, ChaqueListeDUneRegleAUneEntree) {
     std::set<std::string> nommees;
     for (const regle& r : essai::reglesAvecVerif()) {
-        if (r.ligne->sverif == nullptr) continue;
+        if (r.ligne->sverif == &sansListe) continue;
         const sListe* const liste = listeEnMots(r.ligne->sverif);
         ASSERT_NE(liste, nullptr) << r.nom() << ", error " << r.ligne->noErr;
-        EXPECT_EQ(liste->nombre, *r.ligne->plenSverif) << liste->nom;
+        EXPECT_EQ(liste->nombre, r.ligne->sverif->nombre()) << liste->nom;
         nommees.insert(liste->nom);
     }
     for (const sListe& l : listes)
@@ -84,10 +85,10 @@ TEST(Listes, BlancsSontComptes) {
 
 TEST(Listes, SeTrouventParPointeurEtParNom) {
     ASSERT_NE(listeNommee("TD"), nullptr);
-    EXPECT_EQ(listeNommee("TD"), listeEnMots(TD));
-    EXPECT_EQ(listeNommee("TEDC"), listeEnMots(TEDC));
+    EXPECT_EQ(listeNommee("TD"), listeEnMots(&TD));
+    EXPECT_EQ(listeNommee("TEDC"), listeEnMots(&TEDC));
     EXPECT_EQ(listeNommee("td"), nullptr);
     EXPECT_EQ(listeNommee(""), nullptr);
     EXPECT_EQ(listeEnMots(nullptr), nullptr);
-    EXPECT_EQ(listeEnMots(TD + 1), nullptr);
+    EXPECT_EQ(listeEnMots(&sansListe), nullptr);
 }

@@ -19,7 +19,7 @@ textes proches(std::string_view valeur, const sListe& liste) {
 
 template <int N>
 sListe listeDe(const tValAutorise (&entrees)[N], int colonnes = 1) {
-    return {"essai", entrees, N, colonnes, {"", ""}, {"", ""}};
+    return {"essai", nullptr, entrees, N, colonnes, {"", ""}, {"", ""}};
 }
 
 constexpr tValAutorise FORMES[] = {"SARL", "SA  ", "GAEC", "EARL", "M   "};

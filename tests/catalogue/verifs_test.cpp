@@ -13,8 +13,11 @@
 
 #include "catalogue/listes.h"
 #include "catalogue/textes.h"
-#include "checks/utils.h"
+#include "checks/abattage.h"
+#include "checks/identifiants.h"
+#include "checks/valautorise.h"
 #include "support/regles.h"
+#include "vocabulaire/store.h"
 
 using namespace quilvane;
 using essai::regle;
@@ -51,8 +54,7 @@ std::vector<std::string> valeursPour(const regle& r) {
         "AZC123",  "001IPG",     "004IPG",      "OFFICE",     "POINTFOC", "NAIS",        "FICH",   "PASS",
         "3512345", "1000019999", "100001R0001",
     };
-    if (r.ligne->sverif != nullptr)
-        textes.push_back(static_cast<const tValAutorise*>(r.ligne->sverif)[0].valeur);
+    if (r.ligne->sverif != &sansListe) textes.push_back((*r.ligne->sverif)[0].valeur);
     for (std::string& t : textes)
         t = enLargeur(t, r.largeur());
     return textes;
@@ -108,10 +110,10 @@ const std::vector<std::vector<std::pair<numCorpsVSE, const char*>>> ETATS = {
     {{C4, "01061998"}, {C5, "F"}, {C8, "  "}, {C12, "  "}, {C13, "            "}, {C15, "  "}},
 };
 
-bool accepte(const sCorps& l, const std::string& dep, const std::string& champ, int nombre) {
+bool accepte(const sCorps& l, const std::string& dep, const std::string& champ, const liste& valeurs) {
     char tampon[LARGEUR_VSE + 1];
     std::memcpy(tampon, champ.c_str(), champ.size() + 1);
-    return l.pfVerif(dep.c_str(), tampon, l.sverif, nombre) != 0;
+    return l.pfVerif(dep.c_str(), tampon, valeurs) != 0;
 }
 
 /** Whether `change` holds for some value of the row in some state. */
@@ -134,9 +136,9 @@ bool pourQuelqueValeur(const regle& r, Change change) {
 bool regardeDependance(const regle& r) {
     const sCorps& l = *r.ligne;
     return pourQuelqueValeur(r, [&](const std::string& valeur) {
-        const bool premier = accepte(l, DEPENDANCES[0], valeur, *l.plenSverif);
+        const bool premier = accepte(l, DEPENDANCES[0], valeur, *l.sverif);
         for (const std::string& dep : DEPENDANCES)
-            if (accepte(l, dep, valeur, *l.plenSverif) != premier) return true;
+            if (accepte(l, dep, valeur, *l.sverif) != premier) return true;
         return false;
     });
 }
@@ -146,12 +148,12 @@ bool regardeListe(const regle& r) {
     const sCorps& l = *r.ligne;
     return pourQuelqueValeur(r, [&](const std::string& valeur) {
         for (const std::string& dep : DEPENDANCES)
-            if (accepte(l, dep, valeur, *l.plenSverif) != accepte(l, dep, valeur, 0)) return true;
+            if (accepte(l, dep, valeur, *l.sverif) != accepte(l, dep, valeur, sansListe)) return true;
         return false;
     });
 }
 
-std::string jour(const tValAutorise* date) {
+std::string jour(const liste& date) {
     const std::string d = date[0].valeur;
     return d.substr(0, 2) + "/" + d.substr(2, 2) + "/" + d.substr(4);
 }
@@ -217,16 +219,16 @@ TEST(Verifs, DependanceEstNommeeQuandElleEstRegardee) {
 TEST(Verifs, ListeEstNommeeQuandElleEstRegardee) {
     for (const sVerif& v : verifs)
         for (const regle& r : reglesDe(v.verif)) {
-            const bool regardee = r.ligne->sverif != nullptr && regardeListe(r);
+            const bool regardee = r.ligne->sverif != &sansListe && regardeListe(r);
             EXPECT_EQ(nomme(v, "{liste}"), regardee) << v.nom << " in " << r.nom();
         }
 }
 
 TEST(Verifs, ChampNonRempliVeutDireListeDeBlancs) {
     for (const regle& r : reglesDe(fVerifDiffNull)) {
-        const auto* liste = static_cast<const tValAutorise*>(r.ligne->sverif);
-        EXPECT_EQ(*r.ligne->plenSverif, 1) << r.nom();
-        EXPECT_EQ(std::string(liste[0].valeur), std::string(static_cast<std::size_t>(r.largeur()), ' '))
+        const liste& blancs = *r.ligne->sverif;
+        EXPECT_EQ(blancs.nombre(), 1) << r.nom();
+        EXPECT_EQ(std::string(blancs[0].valeur), std::string(static_cast<std::size_t>(r.largeur()), ' '))
             << r.nom();
     }
 }
@@ -267,24 +269,24 @@ TEST(Verifs, ChampsNommesOntCesColonnes) {
 
 // Every reference date that a sentence gives is the one its check compares with.
 TEST(Verifs, DatesDeReferenceSontCellesDesListes) {
-    const std::map<std::string, std::vector<const tValAutorise*>> dates = {
-        {"fDATEP6", {P6}},
-        {"fDATEP6P7", {P6, P7}},
-        {"fVTABP5", {P5}},
-        {"fVTABP6", {P6}},
-        {"fVTABP8", {P8}},
-        {"fVDIFFNULLP5", {P5}},
-        {"fVDIFFNULLP6", {P6}},
-        {"fConform_BV_model1", {P17}},
-        {"fConform_temoin_bouc1", {P17}},
-        {"entr_fC8_mod", {P8}},
-        {"entr_fC9_1_mod", {P8}},
-        {"entr_fC10_mod", {P8}},
-        {"sort_fC8_mod", {P8}},
-        {"sort_fC9_1_mod", {P8}},
-        {"sort_fC10_mod", {P8}},
-        {"nais_C11FRnonUEnon", {P5}},
-        {"nais_C17", {P6}},
+    const std::map<std::string, std::vector<const liste*>> dates = {
+        {"fDATEP6", {&P6}},
+        {"fDATEP6P7", {&P6, &P7}},
+        {"fVTABP5", {&P5}},
+        {"fVTABP6", {&P6}},
+        {"fVTABP8", {&P8}},
+        {"fVDIFFNULLP5", {&P5}},
+        {"fVDIFFNULLP6", {&P6}},
+        {"fConform_BV_model1", {&P17}},
+        {"fConform_temoin_bouc1", {&P17}},
+        {"entr_fC8_mod", {&P8}},
+        {"entr_fC9_1_mod", {&P8}},
+        {"entr_fC10_mod", {&P8}},
+        {"sort_fC8_mod", {&P8}},
+        {"sort_fC9_1_mod", {&P8}},
+        {"sort_fC10_mod", {&P8}},
+        {"nais_C11FRnonUEnon", {&P5}},
+        {"nais_C17", {&P6}},
     };
     const std::regex forme(R"(\d\d/\d\d/\d{4})");
     for (const sVerif& v : verifs)
@@ -293,8 +295,8 @@ TEST(Verifs, DatesDeReferenceSontCellesDesListes) {
             for (std::sregex_iterator i(phrase.begin(), phrase.end(), forme), bout; i != bout; ++i)
                 ecrites.insert(i->str());
             if (const auto d = dates.find(v.nom); d != dates.end())
-                for (const tValAutorise* liste : d->second)
-                    attendues.insert(jour(liste));
+                for (const liste* date : d->second)
+                    attendues.insert(jour(*date));
             EXPECT_EQ(ecrites, attendues) << v.nom;
         }
 }
@@ -311,7 +313,7 @@ TEST(Verifs, ListesNommeesExistent) {
 // The countries whose numbers have a foreign form are spelled out.
 TEST(Verifs, PaysPartenairesSontTousNommes) {
     const std::regex nomDeListe("liste? TD");
-    for (int i = 0; i < LenTP; ++i) {
+    for (int i = 0; i < TP.nombre(); ++i) {
         const std::string pays = TP[i].valeur;
         const bool partenaire = pays == "CH" || appartient_UE(pays.c_str());
         const std::regex mot("\\b" + pays + "\\b");

@@ -5,9 +5,12 @@
 #include <string>
 #include <vector>
 
-#include "checks/utils.h"
+#include "checks/abattage.h"
+#include "checks/dates.h"
+#include "checks/valautorise.h"
 #include "support/magasin.h"
 #include "support/vse.h"
+#include "vocabulaire/store.h"
 
 using namespace quilvane;
 using namespace essai;
@@ -104,19 +107,19 @@ TEST(Abattage, PresenceC2SurUnRecordCourt) {
 
 TEST(Abattage, SeulePresenceC2RafraichitLExtrait) {
     const std::vector<sujet> AUTRES = {
-        SUJET(presence_C5, FR, LenFR),
+        SUJET(presence_C5, FR),
         SUJET(presence_C8),
         SUJET(presence_C11),
         SUJET(fVerif_ASDA),
-        SUJET(fVerif_NUM_ASDA, FR, LenFR),
+        SUJET(fVerif_NUM_ASDA, FR),
         SUJET(fVerif_NUM_TUE),
         SUJET(fVerif_chaine_POIDS),
         SUJET(fVerif_POIDS),
-        SUJET(fVerif_CODEPE_ABATNOT, FR, LenFR),
+        SUJET(fVerif_CODEPE_ABATNOT, FR),
         SUJET(fVerif_NUMID_ABATNOT_CONF),
         SUJET(fVerif_NUMID_ABATNOT_COHER),
         SUJET(fVerif_NUMID_ABATNOT_TABREF),
-        SUJET(fVerif_INDIC_ABAT, FR, LenFR),
+        SUJET(fVerif_INDIC_ABAT, FR),
         SUJET(fVerifDateInputPost),
         SUJET(fVerifDateAbatPost),
         SUJET(fVerifDateAbatPostEntr),
@@ -128,7 +131,7 @@ TEST(Abattage, SeulePresenceC2RafraichitLExtrait) {
         remplirMagasin(ancien, {{xdebug, avis()}});
         const std::string avant = etatMagasin();
         for (const sujet& s : AUTRES) {
-            accepte(s.verif, "", "35123456    ", s.liste, s.len);
+            accepte(s.verif, "", "35123456    ", *s.sverif);
             EXPECT_TRUE(etatMagasin() == avant) << s.nom;
         }
         accepte(presence_C2, "", "");
@@ -137,7 +140,7 @@ TEST(Abattage, SeulePresenceC2RafraichitLExtrait) {
 }
 
 TEST(Abattage, PresenceC5) {
-    prouverMembre(SUJET(presence_C5, FR, LenFR), cp.NUME_EXPLOIT_PROVENANCE,
+    prouverMembre(SUJET(presence_C5, FR), cp.NUME_EXPLOIT_PROVENANCE,
                   {{"35123456    ", true},
                    {"X" + blancs(11), true},
                    {" X" + blancs(10), true},
@@ -188,7 +191,7 @@ TEST(Abattage, PaysDeProvenance) {
             const std::string pays = {a, b};
             const auto est = [&pays](const tValAutorise& v) { return pays == v.valeur; };
             const bool bon =
-                std::any_of(TP, TP + LenTP, est) || std::any_of(TCPNOCEE, TCPNOCEE + LenTCPNOCEE, est);
+                std::any_of(TP.begin(), TP.end(), est) || std::any_of(TCPNOCEE.begin(), TCPNOCEE.end(), est);
             acceptes += bon;
             EXPECT_EQ(accepte(fVerif_ASDA, "", pays), bon) << pays;
         }
@@ -257,7 +260,7 @@ TEST(Abattage, NumeroDeProvenance) {
         {"FR", "C", "office      ", true, false},
         {"FR", "C", " OFFICE     ", true, false},
     };
-    const sujet s = SUJET(fVerif_NUM_ASDA, FR, LenFR);
+    const sujet s = SUJET(fVerif_NUM_ASDA, FR);
     for (const ligne& l : LIGNES)
         s.prouver(
             {
@@ -404,7 +407,7 @@ TEST(Abattage, FormeEtValeurDuPoids) {
 // --------------------------------------------------------------- notifier
 
 TEST(Abattage, PaysDuNotifiant) {
-    const sujet s = SUJET(fVerif_CODEPE_ABATNOT, FR, LenFR);
+    const sujet s = SUJET(fVerif_CODEPE_ABATNOT, FR);
     const auto avec = [](const std::string& n, const std::string& pays) {
         return std::vector<texteLu>{{cp.NUME_IDENT_ABAT_NOTIF, n}, {cp.CODE_PAYS_ABAT_NOTIF, pays}};
     };
@@ -513,7 +516,7 @@ TEST(Abattage, FormeDeLIdentification) {
 
 TEST(Abattage, ReglesSansEffet) {
     for (const sujet& s : {SUJET(fVerif_NUMID_ABATNOT_COHER), SUJET(fVerif_NUMID_ABATNOT_TABREF),
-                           SUJET(fVerif_INDIC_ABAT, FR, LenFR), SUJET(return_true)})
+                           SUJET(fVerif_INDIC_ABAT, FR), SUJET(return_true)})
         s.prouver({{"", "", true}, {"", "X", true}, {"", blancs(12), true}, {"FR", "99999999    ", true}});
 }
 

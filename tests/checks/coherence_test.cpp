@@ -6,8 +6,11 @@
 #include <set>
 #include <sstream>
 
-#include "checks/utils.h"
+#include "checks/coherence.h"
+#include "checks/valautorise.h"
 #include "support/champ.h"
+#include "vocabulaire/regle.h"
+#include "vocabulaire/store.h"
 
 using namespace essai;
 using namespace quilvane;
@@ -22,9 +25,9 @@ struct cas {
 
 /** Compares the check's verdict on each row with the expected one. */
 void verdicts(const char* nom, fVerif* verif, const std::vector<cas>& table,
-              const tValAutorise* liste = nullptr, int lenListe = 0) {
+              const liste& sverif = sansListe) {
     for (const cas& c : table)
-        EXPECT_EQ(accepte(verif, c.dependance, c.champ, liste, lenListe), c.attendu)
+        EXPECT_EQ(accepte(verif, c.dependance, c.champ, sverif), c.attendu)
             << nom << " dependance \"" << c.dependance << "\" champ \"" << c.champ << "\"";
 }
 
@@ -326,7 +329,7 @@ TEST(CoherenceTEDC, LaLigneVideNestPasUnePaire) {
     EXPECT_FALSE(essayer(pairesTEDC, "013ARS  ", ""));
     EXPECT_FALSE(essayer(pairesTEDC, "        ", "        "));
     EXPECT_EQ(LenTEDC, 92);
-    EXPECT_EQ(TEDC[89][0].valeur, nullptr);
+    EXPECT_EQ(TEDC.ligne(89)[0].valeur, nullptr);
 }
 
 TEST(CoherenceCCE, EgauxNationauxOuPaire) {
@@ -389,13 +392,13 @@ TEST(CoherenceEgetVolailles, ChaqueCorpsEtChaqueSerie) {
     std::string lettres = ",";
     for (char c = 'A'; c <= 'Z'; ++c)
         lettres += c;
-    for (int i = 0; i + 1 < LenNEV; i += 2) {
+    for (int i = 0; i + 1 < NEV.nombre(); i += 2) {
         const std::string code = NEV[i].valeur;
         const std::string series = NEV[i + 1].valeur;
         for (const char a : lettres)
             for (const char b : lettres) {
                 const std::string serie = {a, b};
-                EXPECT_EQ(accepte(fCoherenCCEget, code + "  ", serie + "A12       ", NEV, LenNEV),
+                EXPECT_EQ(accepte(fCoherenCCEget, code + "  ", serie + "A12       ", NEV),
                           series.find(serie) != std::string::npos)
                     << code << " " << serie;
             }
@@ -439,35 +442,34 @@ TEST(CoherenceEgetVolailles, SeriesCommeTexte) {
               {"POINTFOC", "AAA12       ", false},
               {"NORM01  ", "AAA12       ", false},
               {"", "AAA12       ", false}},
-             NEV, LenNEV);
+             NEV);
 }
 
 TEST(CoherenceEgetVolailles, BoutsDeLaListe) {
     const slotTenu c4(C4, "V");
-    const tValAutorise liste[] = {"001IPG", "AA", "002IPG", "BB,CC", "001IPG", "DD", "003IPG", "EE"};
+    const liste quatre = {{"001IPG", "AA", "002IPG", "BB,CC", "001IPG", "DD", "003IPG", "EE"}, 2};
+    const liste une = {{"001IPG", "AA"}, 2};
+    const liste simple = {{"001IPG", "AA"}};
     struct ligne {
         const char* code;
         const char* champ;
-        int lenListe;
+        const liste& series;
         bool attendu;
     };
     const ligne table[] = {
-        {"001IPG  ", "AAA12       ", 8, true},
-        {"001IPG  ", "DDA12       ", 8, false},  // the first pair decides
-        {"002IPG  ", "CCA12       ", 8, true},
-        {"003IPG  ", "EEA12       ", 8, true},
-        {"003IPG  ", "EEA12       ", 6, false},
-        {"001IPG  ", "AAA12       ", 2, true},
-        {"002IPG  ", "BBA12       ", 2, false},
-        {"001IPG  ", "AAA12       ", 1, false},
-        {"001IPG  ", "AAA12       ", 0, false},
-        {"001IPG  ", "AAA12       ", -1, false},
-        {"001IPG  ", "AAA12       ", -2, false},
+        {"001IPG  ", "AAA12       ", quatre, true},
+        {"001IPG  ", "DDA12       ", quatre, false},  // the first pair decides
+        {"002IPG  ", "CCA12       ", quatre, true},
+        {"003IPG  ", "EEA12       ", quatre, true},
+        {"003IPG  ", "EEA12       ", une, false},
+        {"001IPG  ", "AAA12       ", une, true},
+        {"002IPG  ", "BBA12       ", une, false},
+        {"001IPG  ", "AAA12       ", simple, false},
+        {"001IPG  ", "AAA12       ", sansListe, false},
     };
     for (const ligne& l : table)
-        EXPECT_EQ(accepte(fCoherenCCEget, l.code, l.champ, liste, l.lenListe), l.attendu)
-            << l.code << l.champ << l.lenListe;
-    EXPECT_FALSE(accepte(fCoherenCCEget, "001IPG  ", "AAA12       ", nullptr, 0));
+        EXPECT_EQ(accepte(fCoherenCCEget, l.code, l.champ, l.series), l.attendu)
+            << l.code << l.champ << l.series.nombre();
 }
 
 TEST(CoherenceEgetPorcins, ChaqueCorpsEtChaquePrefixe) {
@@ -488,7 +490,7 @@ TEST(CoherenceEgetPorcins, ChaqueCorpsEtChaquePrefixe) {
             bool attendu = false;
             for (const std::string& a : admis)
                 attendu = attendu || commencePar(debut, a);
-            EXPECT_EQ(accepte(fCoherenCCEget, dep + "IPG  ", debut + "12       ", NEV, LenNEV), attendu)
+            EXPECT_EQ(accepte(fCoherenCCEget, dep + "IPG  ", debut + "12       ", NEV), attendu)
                 << dep << " " << debut;
         }
     }
@@ -539,8 +541,8 @@ TEST(CoherenceEgetPorcins, CodesParticuliers) {
               {"", "35A12       ", false},
               {"0\3111IPG  ", "\3111A12       ", true},
               {"0\3111IPG  ", "I1A12       ", false}},
-             NEV, LenNEV);
-    EXPECT_TRUE(accepte(fCoherenCCEget, "035IPG  ", "35A12       ", nullptr, 0)) << "needs no list";
+             NEV);
+    EXPECT_TRUE(accepte(fCoherenCCEget, "035IPG  ", "35A12       ", sansListe)) << "needs no list";
 }
 
 TEST(CoherenceEget, AutreProduction) {
@@ -548,7 +550,7 @@ TEST(CoherenceEget, AutreProduction) {
         const slotTenu c4(C4, production);
         for (const char* champ : {"AAA12       ", "01A12       ", "", "97112       "})
             for (const char* code : {"001IPG  ", "971IPG  ", "POINTFOC"})
-                EXPECT_FALSE(accepte(fCoherenCCEget, code, champ, NEV, LenNEV))
+                EXPECT_FALSE(accepte(fCoherenCCEget, code, champ, NEV))
                     << "\"" << production << "\" " << code << " " << champ;
     }
 }
@@ -586,7 +588,7 @@ std::vector<std::string> voisins(const std::string& borne) {
 
 TEST(CoherenceIndM, ChaqueCorpsAuxBordsDeChaquePlage) {
     std::vector<plageOC> plages;
-    for (int i = 0; i + 2 < LenIND_M; i += 3)
+    for (int i = 0; i + 2 < IND_M.nombre(); i += 3)
         plages.push_back({IND_M[i].valeur, IND_M[i + 1].valeur, IND_M[i + 2].valeur});
     ASSERT_EQ(plages.size(), 101U);
     plages.insert(plages.end(), std::begin(SUPPLEMENTS), std::end(SUPPLEMENTS));
@@ -602,7 +604,7 @@ TEST(CoherenceIndM, ChaqueCorpsAuxBordsDeChaquePlage) {
             bool attendu = false;
             for (const plageOC& p : plages)
                 attendu = attendu || (code == p.code && n >= p.de && n <= p.a);
-            EXPECT_EQ(accepte(fCoheren_OC_IND_M, code + "  ", n + "      ", IND_M, LenIND_M), attendu)
+            EXPECT_EQ(accepte(fCoheren_OC_IND_M, code + "  ", n + "      ", IND_M), attendu)
                 << code << " " << n;
         }
     }
@@ -639,7 +641,7 @@ TEST(CoherenceIndM, BornesComprises) {
               {"049IPG  ", "674999      ", true},
               {"043IPG  ", "675000      ", false},
               {"049IPG  ", "675000      ", false}},
-             IND_M, LenIND_M);
+             IND_M);
 }
 
 TEST(CoherenceIndM, LeCorpsInconnuAlaDernierePlage) {
@@ -654,13 +656,13 @@ TEST(CoherenceIndM, LeCorpsInconnuAlaDernierePlage) {
                   {code, "681000      ", false},
                   {code, "", false},
                   {code, "            ", false}},
-                 IND_M, LenIND_M);
+                 IND_M);
     // Six characters of the code are compared.
     for (const char* code : {"001IPG", "001IPGXX"})
         verdicts("fCoheren_OC_IND_M", fCoheren_OC_IND_M,
-                 {{code, "100000      ", true}, {code, "650000      ", false}}, IND_M, LenIND_M);
-    EXPECT_TRUE(accepte(fCoheren_OC_IND_M, "076IPGXX", "681000      ", IND_M, LenIND_M));
-    EXPECT_FALSE(accepte(fCoheren_OC_IND_M, "076IP", "681000      ", IND_M, LenIND_M));
+                 {{code, "100000      ", true}, {code, "650000      ", false}}, IND_M);
+    EXPECT_TRUE(accepte(fCoheren_OC_IND_M, "076IPGXX", "681000      ", IND_M));
+    EXPECT_FALSE(accepte(fCoheren_OC_IND_M, "076IP", "681000      ", IND_M));
 }
 
 TEST(CoherenceIndM, ComparaisonDeTextes) {
@@ -678,12 +680,13 @@ TEST(CoherenceIndM, ComparaisonDeTextes) {
               {"001IPG  ", "\26100000      ", false},
               {"001IPG  ", "NORM01  ", false},
               {"001IPG  ", "", false}},
-             IND_M, LenIND_M);
+             IND_M);
 }
 
 TEST(CoherenceIndM, ListeDesPlages) {
-    const tValAutorise liste[] = {"001IPG", "100000", "104999", "001IPG", "200000",
-                                  "204999", "002IPG", "300000", "304999"};
+    const liste trois = {
+        {"001IPG", "100000", "104999", "001IPG", "200000", "204999", "002IPG", "300000", "304999"}, 3};
+    const liste une = {{"001IPG", "100000", "104999"}, 3};
     verdicts("three triples", fCoheren_OC_IND_M,
              {{"001IPG  ", "100000      ", true},
               {"001IPG  ", "200000      ", false},  // the first triple stays current
@@ -694,12 +697,12 @@ TEST(CoherenceIndM, ListeDesPlages) {
               // The supplementary ranges do not depend on the list.
               {"076IPG  ", "683499      ", true},
               {"076IPG  ", "300000      ", true}},
-             liste, 9);
+             trois);
     verdicts("one triple", fCoheren_OC_IND_M,
              {{"001IPG  ", "104999      ", true},
               {"002IPG  ", "104999      ", true},
               {"002IPG  ", "300000      ", false}},
-             liste, 3);
+             une);
     verdicts("no triple", fCoheren_OC_IND_M,
              {{"001IPG  ", "100000      ", false},
               {"975IPG  ", "650000      ", false},

@@ -3,8 +3,11 @@
 #include <set>
 #include <sstream>
 
-#include "checks/utils.h"
+#include "checks/conformite.h"
+#include "checks/valautorise.h"
 #include "support/champ.h"
+#include "vocabulaire/regle.h"
+#include "vocabulaire/store.h"
 
 using namespace essai;
 using namespace quilvane;
@@ -29,10 +32,9 @@ struct cas {
 };
 
 /** Compares the check's verdict on each row with the expected one. */
-void verdicts(const char* nom, fVerif* verif, const tValAutorise* liste, int lenListe,
-              const std::vector<cas>& table) {
+void verdicts(const char* nom, fVerif* verif, const liste& sverif, const std::vector<cas>& table) {
     for (const cas& c : table)
-        EXPECT_EQ(accepte(verif, c.dependance, c.champ, liste, lenListe), c.attendu)
+        EXPECT_EQ(accepte(verif, c.dependance, c.champ, sverif), c.attendu)
             << nom << " dependance \"" << c.dependance << "\" champ \"" << c.champ << "\"";
 }
 
@@ -111,7 +113,7 @@ TEST(ConformiteNumeroFrancais, ChaquePrefixeDeTroisChiffres) {
             const bool attendu = departement == 97
                                      ? std::string("12346").find(prefixe[2]) != std::string::npos
                                      : (departement >= 1 && departement <= 95) || departement == 98;
-            EXPECT_EQ(accepte(n.verif, "", numero(prefixe, n.nbChiffres), TD, LenTD), attendu)
+            EXPECT_EQ(accepte(n.verif, "", numero(prefixe, n.nbChiffres), TD), attendu)
                 << n.nom << " " << prefixe;
         }
     }
@@ -121,17 +123,16 @@ TEST(ConformiteNumeroFrancais, PrefixesQuiNeSontPasDesDepartements) {
     for (const numeroFr& n : NUMEROS_FR)
         for (const char* prefixe :
              {"2A1", "2B1", "97A", "97/", "97:", "97 ", "9 1", " 11", "  1", "\26351", "3\2651", "97\xB1"})
-            EXPECT_FALSE(accepte(n.verif, "", numero(prefixe, n.nbChiffres), TD, LenTD))
-                << n.nom << " " << prefixe;
+            EXPECT_FALSE(accepte(n.verif, "", numero(prefixe, n.nbChiffres), TD)) << n.nom << " " << prefixe;
 }
 
 TEST(ConformiteNumeroFrancais, ChaqueColonneDesChiffres) {
     for (const numeroFr& n : NUMEROS_FR) {
         const std::string bon = numero("35", n.nbChiffres);
-        ASSERT_TRUE(accepte(n.verif, "", bon, TD, LenTD)) << n.nom;
+        ASSERT_TRUE(accepte(n.verif, "", bon, TD)) << n.nom;
         for (int col = 1; col <= n.nbChiffres; ++col)
             for (const char c : {'/', ':', ' ', 'A', '-', '\x7F', '\xB2', '\xFF'})
-                EXPECT_FALSE(accepte(n.verif, "", avec(bon, col, c), TD, LenTD))
+                EXPECT_FALSE(accepte(n.verif, "", avec(bon, col, c), TD))
                     << n.nom << " colonne " << col << " \"" << c << "\"";
     }
 }
@@ -141,7 +142,7 @@ TEST(ConformiteNumeroFrancais, ChaqueColonneQuiSuitLesChiffres) {
         const std::string bon = numero("35", n.nbChiffres);
         for (int col = n.nbChiffres + 1; col <= 12; ++col)
             for (const char c : {'0', '9', 'A', '*', '!', '\x1F', '\xA0'})
-                EXPECT_EQ(accepte(n.verif, "", avec(bon, col, c), TD, LenTD), n.suiteLibre)
+                EXPECT_EQ(accepte(n.verif, "", avec(bon, col, c), TD), n.suiteLibre)
                     << n.nom << " colonne " << col << " \"" << c << "\"";
     }
 }
@@ -150,60 +151,60 @@ TEST(ConformiteNumeroFrancais, ChaqueLongueur) {
     for (const numeroFr& n : NUMEROS_FR) {
         const std::string bon = numero("35", n.nbChiffres) + "  ";
         for (int longueur = 0; longueur <= 14; ++longueur)
-            EXPECT_EQ(accepte(n.verif, "", bon.substr(0, static_cast<std::size_t>(longueur)), TD, LenTD),
+            EXPECT_EQ(accepte(n.verif, "", bon.substr(0, static_cast<std::size_t>(longueur)), TD),
                       n.suiteLibre ? longueur >= n.nbChiffres : longueur == 12)
                 << n.nom << " longueur " << longueur;
     }
 }
 
 TEST(ConformiteNumeroFrancais, ListeDesDepartements) {
-    const tValAutorise longue[] = {"35X", "971", "AB", "99"};
+    const liste une = {{"01"}};
+    const liste deux = {{"01", "02"}};
+    const liste sansReunion = {{"972"}};
+    const liste longue = {{"35X", "971", "AB", "99"}};
     struct ligne {
         const char* prefixe;
-        const tValAutorise* liste;
-        int lenListe;
+        const liste& departements;
         bool attendu;
     };
     const ligne table[] = {
-        {"01", TD, 0, false},
-        {"01", TD, -1, false},
-        {"01", nullptr, 0, false},
-        {"01", nullptr, -97, false},
-        {"01", TD, 1, true},
-        {"02", TD, 1, false},
-        {"02", TD, 2, true},
-        {"98", TD, LenTD, true},
-        {"98", TD, LenTD - 1, false},
-        {"972", TD, LenTD - 1, true},
-        {"972", TD, LenTD - 2, false},
+        {"01", sansListe, false},
+        {"01", une, true},
+        {"02", une, false},
+        {"02", deux, true},
+        {"98", TD, true},
+        {"98", deux, false},
+        {"972", TD, true},
+        {"972", sansReunion, true},
+        {"972", deux, false},
         // Only the first two characters of an entry count.
-        {"354", longue, 4, true},
-        {"972", longue, 4, true},
-        {"975", longue, 4, false},
-        {"36", longue, 4, false},
-        {"AB", longue, 4, false},
-        {"99", longue, 4, true},
-        {"99", longue, 3, false},
+        {"354", longue, true},
+        {"972", longue, true},
+        {"975", longue, false},
+        {"36", longue, false},
+        {"AB", longue, false},
+        {"99", longue, true},
+        {"99", deux, false},
     };
     for (const numeroFr& n : NUMEROS_FR)
         for (const ligne& l : table)
-            EXPECT_EQ(accepte(n.verif, "", numero(l.prefixe, n.nbChiffres), l.liste, l.lenListe), l.attendu)
-                << n.nom << " " << l.prefixe << " liste de " << l.lenListe;
+            EXPECT_EQ(accepte(n.verif, "", numero(l.prefixe, n.nbChiffres), l.departements), l.attendu)
+                << n.nom << " " << l.prefixe << " list of " << l.departements.nombre();
 }
 
 TEST(ConformiteNumeroFrancais, NiCodesSpeciauxNiDependance) {
     for (const numeroFr& n : NUMEROS_FR) {
         for (const std::string& code : CODES_SPECIAUX)
-            EXPECT_FALSE(accepte(n.verif, "", code, TD, LenTD)) << n.nom << " " << code;
+            EXPECT_FALSE(accepte(n.verif, "", code, TD)) << n.nom << " " << code;
         for (const char* pays : {"FR", "BE", "  ", "NORM01  "}) {
-            EXPECT_TRUE(accepte(n.verif, pays, numero("35", n.nbChiffres), TD, LenTD)) << n.nom << pays;
-            EXPECT_FALSE(accepte(n.verif, pays, MALFORME, TD, LenTD)) << n.nom << pays;
+            EXPECT_TRUE(accepte(n.verif, pays, numero("35", n.nbChiffres), TD)) << n.nom << pays;
+            EXPECT_FALSE(accepte(n.verif, pays, MALFORME, TD)) << n.nom << pays;
         }
     }
 }
 
 TEST(ConformiteNumeroFrancais, HuitEtDixChiffresSeDistinguent) {
-    verdicts("fConform8", fConform8, TD, LenTD,
+    verdicts("fConform8", fConform8, TD,
              {{"", FRANCAIS8, true},
               {"", "12345678    ", true},
               {"", "97612345    ", true},
@@ -213,10 +214,10 @@ TEST(ConformiteNumeroFrancais, HuitEtDixChiffresSeDistinguent) {
               {"", "99123456    ", false},
               {"", "35123456   7", false},
               {"", FRANCAIS10, false}});
-    verdicts("fConform10", fConform10, TD, LenTD,
+    verdicts("fConform10", fConform10, TD,
              {{"", FRANCAIS10, true}, {"", FRANCAIS8, false}, {"", "3512345678 ", false}});
-    verdicts("fConform8C", fConform8C, TD, LenTD, {{"", FRANCAIS10, true}, {"", "35123456*XYZ", true}});
-    verdicts("fConform", fConform, TD, LenTD, {{"", "3512345678YZ", true}, {"", FRANCAIS8, false}});
+    verdicts("fConform8C", fConform8C, TD, {{"", FRANCAIS10, true}, {"", "35123456*XYZ", true}});
+    verdicts("fConform", fConform, TD, {{"", "3512345678YZ", true}, {"", FRANCAIS8, false}});
 }
 
 // ------------------------------------------------------ wrappers by country
@@ -225,7 +226,7 @@ TEST(ConformitePays, FormeFrancaisePourFRSeulement) {
     for (const bool dix : {false, true}) {
         fVerif* const verif = dix ? fConform10FR : fConform8FR;
         const char* const nom = dix ? "fConform10FR" : "fConform8FR";
-        verdicts(nom, verif, TD, LenTD,
+        verdicts(nom, verif, TD,
                  {{"FR", FRANCAIS8, !dix},
                   {"FR", FRANCAIS10, dix},
                   {"FR", MALFORME, false},
@@ -233,18 +234,18 @@ TEST(ConformitePays, FormeFrancaisePourFRSeulement) {
                   {"FR", DOUZE_BLANCS, false},
                   {"FR", DOUZE_ETOILES, false},
                   {"FR", "NORM01  ", false}});
-        EXPECT_FALSE(accepte(verif, "FR", dix ? FRANCAIS10 : FRANCAIS8, TD, 0)) << nom;
+        EXPECT_FALSE(accepte(verif, "FR", dix ? FRANCAIS10 : FRANCAIS8, sansListe)) << nom;
         for (const std::string& pays : deuxLettres())
-            EXPECT_EQ(accepte(verif, pays, MALFORME, TD, LenTD), pays != "FR") << nom << " " << pays;
+            EXPECT_EQ(accepte(verif, pays, MALFORME, TD), pays != "FR") << nom << " " << pays;
         for (const std::string& pays : FAUX_PAYS)
-            EXPECT_TRUE(accepte(verif, pays, MALFORME, TD, LenTD)) << nom << " \"" << pays << "\"";
+            EXPECT_TRUE(accepte(verif, pays, MALFORME, TD)) << nom << " \"" << pays << "\"";
         for (const std::string& pays : CODES_SPECIAUX)
-            EXPECT_TRUE(accepte(verif, pays, MALFORME, TD, LenTD)) << nom << " " << pays;
+            EXPECT_TRUE(accepte(verif, pays, MALFORME, TD)) << nom << " " << pays;
     }
 }
 
 TEST(ConformitePays, SansBlancInterieurHorsFR) {
-    verdicts("fConform8FRnon", fConform8FRnon, TD, LenTD,
+    verdicts("fConform8FRnon", fConform8FRnon, TD,
              {{"FR", MALFORME, true},
               {"FR", DOUZE_BLANCS, true},
               {"  ", MALFORME, true},
@@ -271,7 +272,7 @@ TEST(ConformitePays, NumeroOuvertOuFormeFrancaise) {
     for (const bool dix : {false, true}) {
         fVerif* const verif = dix ? fCONFORM10FRNULL : fCONFORM8FRNULL;
         const char* const nom = dix ? "fCONFORM10FRNULL" : "fCONFORM8FRNULL";
-        verdicts(nom, verif, TD, LenTD,
+        verdicts(nom, verif, TD,
                  {{"FR", DOUZE_BLANCS, true},
                   {"FR", DOUZE_ETOILES, true},
                   {"FR", std::string(11, ' '), false},
@@ -288,9 +289,9 @@ TEST(ConformitePays, NumeroOuvertOuFormeFrancaise) {
                   {"", MALFORME, true}});
         // Both blank forms are list tests, which the special codes pass.
         for (const std::string& code : CODES_SPECIAUX) {
-            EXPECT_TRUE(accepte(verif, "FR", code, TD, LenTD)) << nom << " " << code;
-            EXPECT_FALSE(accepte(verif, "FR", code + " ", TD, LenTD)) << nom << " " << code;
-            EXPECT_FALSE(accepte(verif, "FR", code.substr(0, 7), TD, LenTD)) << nom << " " << code;
+            EXPECT_TRUE(accepte(verif, "FR", code, TD)) << nom << " " << code;
+            EXPECT_FALSE(accepte(verif, "FR", code + " ", TD)) << nom << " " << code;
+            EXPECT_FALSE(accepte(verif, "FR", code.substr(0, 7), TD)) << nom << " " << code;
         }
     }
 }
@@ -307,18 +308,17 @@ TEST(ConformitePays, FormeFrancaiseHorsDeLaListe) {
     };
     for (const ligne& l : table) {
         for (const std::string& pays : deuxLettres()) {
-            EXPECT_EQ(accepte(l.verif, pays, MALFORME, TD, LenTD), l.liste.count(pays) == 1)
-                << l.nom << " " << pays;
-            EXPECT_TRUE(accepte(l.verif, pays, FRANCAIS10, TD, LenTD)) << l.nom << " " << pays;
+            EXPECT_EQ(accepte(l.verif, pays, MALFORME, TD), l.liste.count(pays) == 1) << l.nom << " " << pays;
+            EXPECT_TRUE(accepte(l.verif, pays, FRANCAIS10, TD)) << l.nom << " " << pays;
         }
         for (const std::string& pays : FAUX_PAYS) {
-            EXPECT_FALSE(accepte(l.verif, pays, MALFORME, TD, LenTD)) << l.nom << " \"" << pays << "\"";
-            EXPECT_FALSE(accepte(l.verif, pays, FRANCAIS8, TD, LenTD)) << l.nom << " \"" << pays << "\"";
-            EXPECT_TRUE(accepte(l.verif, pays, FRANCAIS10, TD, LenTD)) << l.nom << " \"" << pays << "\"";
+            EXPECT_FALSE(accepte(l.verif, pays, MALFORME, TD)) << l.nom << " \"" << pays << "\"";
+            EXPECT_FALSE(accepte(l.verif, pays, FRANCAIS8, TD)) << l.nom << " \"" << pays << "\"";
+            EXPECT_TRUE(accepte(l.verif, pays, FRANCAIS10, TD)) << l.nom << " \"" << pays << "\"";
         }
         for (const std::string& code : CODES_SPECIAUX)
-            EXPECT_TRUE(accepte(l.verif, code, MALFORME, TD, LenTD)) << l.nom << " " << code;
-        EXPECT_FALSE(accepte(l.verif, "US", FRANCAIS10, TD, 0)) << l.nom;
+            EXPECT_TRUE(accepte(l.verif, code, MALFORME, TD)) << l.nom << " " << code;
+        EXPECT_FALSE(accepte(l.verif, "US", FRANCAIS10, sansListe)) << l.nom;
     }
 }
 
@@ -335,18 +335,17 @@ TEST(ConformitePays, NumeroEtrangerDansLaListe) {
     for (const ligne& l : table) {
         for (const std::string& pays : deuxLettres()) {
             const bool soumis = l.liste.count(pays) == 1 && pays != "FR";
-            EXPECT_EQ(accepte(l.verif, pays, MALFORME, TD, LenTD), !soumis) << l.nom << " " << pays;
-            EXPECT_EQ(accepte(l.verif, pays, pays + "1234567890", TD, LenTD), !soumis)
-                << l.nom << " " << pays;
-            EXPECT_TRUE(accepte(l.verif, pays, "1" + pays + "456789   ", TD, LenTD)) << l.nom << " " << pays;
+            EXPECT_EQ(accepte(l.verif, pays, MALFORME, TD), !soumis) << l.nom << " " << pays;
+            EXPECT_EQ(accepte(l.verif, pays, pays + "1234567890", TD), !soumis) << l.nom << " " << pays;
+            EXPECT_TRUE(accepte(l.verif, pays, "1" + pays + "456789   ", TD)) << l.nom << " " << pays;
         }
         for (const std::string& pays : FAUX_PAYS)
-            EXPECT_TRUE(accepte(l.verif, pays, MALFORME, TD, LenTD)) << l.nom << " \"" << pays << "\"";
+            EXPECT_TRUE(accepte(l.verif, pays, MALFORME, TD)) << l.nom << " \"" << pays << "\"";
         // A special code counts as listed.
         for (const std::string& code : CODES_SPECIAUX) {
-            EXPECT_FALSE(accepte(l.verif, code, MALFORME, TD, LenTD)) << l.nom << " " << code;
-            EXPECT_FALSE(accepte(l.verif, code, code.substr(0, 2) + "123", TD, LenTD)) << l.nom << code;
-            EXPECT_TRUE(accepte(l.verif, code, ETRANGER, TD, LenTD)) << l.nom << " " << code;
+            EXPECT_FALSE(accepte(l.verif, code, MALFORME, TD)) << l.nom << " " << code;
+            EXPECT_FALSE(accepte(l.verif, code, code.substr(0, 2) + "123", TD)) << l.nom << code;
+            EXPECT_TRUE(accepte(l.verif, code, ETRANGER, TD)) << l.nom << " " << code;
         }
     }
 }
@@ -357,7 +356,7 @@ TEST(ConformitePays, NumeroEtrangerHorsFR) {
         fVerif* verif;
     };
     for (const ligne& l : {ligne{"fConform10FRnon", fConform10FRnon}, {"fConform_OC_UE", fConform_OC_UE}}) {
-        verdicts(l.nom, l.verif, nullptr, 0,
+        verdicts(l.nom, l.verif, sansListe,
                  {{"FR", MALFORME, true},
                   {"FR", DOUZE_BLANCS, true},
                   {"FR", "", true},
@@ -409,33 +408,32 @@ const std::pair<const char*, bool> INDICATIFS[] = {
 TEST(ConformiteOvin, NumeroDeOnzeChiffres) {
     for (const auto& [indicatif, attendu] : INDICATIFS)
         for (const char* suite : {"00000 ", "99999 "})
-            EXPECT_EQ(accepte(fConform_OC_FR, "FR", indicatif + std::string(suite), IND_M, LenIND_M), attendu)
+            EXPECT_EQ(accepte(fConform_OC_FR, "FR", indicatif + std::string(suite), IND_M), attendu)
                 << indicatif << suite;
     const std::string bon = "25000112345 ";
     EXPECT_TRUE(accepte(fConform_OC_FR, "FR", bon)) << "the list is not consulted";
     for (int col = 1; col <= 11; ++col)
         for (const char c : {'/', ':', ' ', 'A', '\xB2'})
-            EXPECT_FALSE(accepte(fConform_OC_FR, "FR", avec(bon, col, c), IND_M, LenIND_M))
+            EXPECT_FALSE(accepte(fConform_OC_FR, "FR", avec(bon, col, c), IND_M))
                 << "colonne " << col << " \"" << c << "\"";
     for (const char c : {'0', 'A', '*', '\xA0'})
-        EXPECT_FALSE(accepte(fConform_OC_FR, "FR", avec(bon, 12, c), IND_M, LenIND_M)) << c;
+        EXPECT_FALSE(accepte(fConform_OC_FR, "FR", avec(bon, 12, c), IND_M)) << c;
     for (std::size_t longueur = 0; longueur <= 13; ++longueur)
-        EXPECT_EQ(accepte(fConform_OC_FR, "FR", (bon + " ").substr(0, longueur), IND_M, LenIND_M),
-                  longueur == 12)
+        EXPECT_EQ(accepte(fConform_OC_FR, "FR", (bon + " ").substr(0, longueur), IND_M), longueur == 12)
             << "longueur " << longueur;
     for (const std::string& code : CODES_SPECIAUX)
-        EXPECT_FALSE(accepte(fConform_OC_FR, "FR", code, IND_M, LenIND_M)) << code;
-    EXPECT_FALSE(accepte(fConform_OC_FR, "FR", DOUZE_BLANCS, IND_M, LenIND_M));
+        EXPECT_FALSE(accepte(fConform_OC_FR, "FR", code, IND_M)) << code;
+    EXPECT_FALSE(accepte(fConform_OC_FR, "FR", DOUZE_BLANCS, IND_M));
 }
 
 TEST(ConformiteOvin, AutresPaysPassent) {
     const slotTenu commande(C9, "I0");
     for (fVerif* verif : {fConform_OC_FR, fConform_OC_TP}) {
         for (const std::string& pays : deuxLettres())
-            EXPECT_EQ(accepte(verif, pays, MALFORME, IND_M, LenIND_M), pays != "FR") << pays;
+            EXPECT_EQ(accepte(verif, pays, MALFORME, IND_M), pays != "FR") << pays;
         for (const std::string& pays : FAUX_PAYS)
-            EXPECT_TRUE(accepte(verif, pays, "", IND_M, LenIND_M)) << "\"" << pays << "\"";
-        EXPECT_FALSE(accepte(verif, "FR", "", IND_M, LenIND_M));
+            EXPECT_TRUE(accepte(verif, pays, "", IND_M)) << "\"" << pays << "\"";
+        EXPECT_FALSE(accepte(verif, "FR", "", IND_M));
     }
 }
 
@@ -449,7 +447,7 @@ TEST(ConformiteOvin, ColonneSeptSelonLaCommande) {
             const bool attendu = commande == "PR"   ? c == 'R'
                                  : commande == "PC" ? c == 'C'
                                                     : c >= '0' && c <= '9';
-            EXPECT_EQ(accepte(fConform_OC_TP, "FR", avec("250001R     ", 7, c), IND_M, LenIND_M), attendu)
+            EXPECT_EQ(accepte(fConform_OC_TP, "FR", avec("250001R     ", 7, c), IND_M), attendu)
                 << "commande \"" << commande << "\" colonne 7 octet " << octet;
         }
     }
@@ -462,27 +460,26 @@ TEST(ConformiteOvin, NumeroDeCommande) {
         const std::string plein = avec("250001?0189 ", 7, septieme);
         for (const auto& [indicatif, attendu] : INDICATIFS)
             for (const std::string& modele : {blanc, plein})
-                EXPECT_EQ(accepte(fConform_OC_TP, "FR", indicatif + modele.substr(6), IND_M, LenIND_M),
-                          attendu)
+                EXPECT_EQ(accepte(fConform_OC_TP, "FR", indicatif + modele.substr(6), IND_M), attendu)
                     << indicatif << " " << commande;
         EXPECT_TRUE(accepte(fConform_OC_TP, "FR", plein)) << "the list is not consulted";
         for (int col = 1; col <= 6; ++col)
             for (const char c : {'/', ':', ' ', 'A', '\xB2'})
-                EXPECT_FALSE(accepte(fConform_OC_TP, "FR", avec(blanc, col, c), IND_M, LenIND_M))
+                EXPECT_FALSE(accepte(fConform_OC_TP, "FR", avec(blanc, col, c), IND_M))
                     << commande << " colonne " << col;
         for (int col = 8; col <= 11; ++col) {
-            EXPECT_FALSE(accepte(fConform_OC_TP, "FR", avec(blanc, col, '0'), IND_M, LenIND_M))
+            EXPECT_FALSE(accepte(fConform_OC_TP, "FR", avec(blanc, col, '0'), IND_M))
                 << commande << " chiffre parmi les blancs, colonne " << col;
             for (const char c : {' ', '/', ':', 'A', '\xB9'})
-                EXPECT_FALSE(accepte(fConform_OC_TP, "FR", avec(plein, col, c), IND_M, LenIND_M))
+                EXPECT_FALSE(accepte(fConform_OC_TP, "FR", avec(plein, col, c), IND_M))
                     << commande << " \"" << c << "\" parmi les chiffres, colonne " << col;
         }
         for (const std::string& modele : {blanc, plein}) {
             for (const char c : {'0', 'A', '\xA0'})
-                EXPECT_FALSE(accepte(fConform_OC_TP, "FR", avec(modele, 12, c), IND_M, LenIND_M))
+                EXPECT_FALSE(accepte(fConform_OC_TP, "FR", avec(modele, 12, c), IND_M))
                     << commande << " colonne 12 \"" << c << "\"";
             for (std::size_t longueur = 0; longueur <= 13; ++longueur)
-                EXPECT_EQ(accepte(fConform_OC_TP, "FR", (modele + " ").substr(0, longueur), IND_M, LenIND_M),
+                EXPECT_EQ(accepte(fConform_OC_TP, "FR", (modele + " ").substr(0, longueur), IND_M),
                           longueur == 12)
                     << commande << " longueur " << longueur;
         }
@@ -491,18 +488,17 @@ TEST(ConformiteOvin, NumeroDeCommande) {
 
 TEST(ConformiteOvin, Indicatif) {
     for (const auto& [indicatif, attendu] : INDICATIFS)
-        EXPECT_EQ(accepte(fConform_OC_IND_M, "", indicatif + std::string(6, ' '), IND_M, LenIND_M), attendu)
+        EXPECT_EQ(accepte(fConform_OC_IND_M, "", indicatif + std::string(6, ' '), IND_M), attendu)
             << indicatif;
     const std::string bon = "250001      ";
     EXPECT_TRUE(accepte(fConform_OC_IND_M, "BE", bon)) << "neither list nor country is consulted";
     EXPECT_FALSE(accepte(fConform_OC_IND_M, "BE", MALFORME));
     for (int col = 1; col <= 12; ++col)
         for (const char c : {'/', ':', 'A', '\xB2', col <= 6 ? ' ' : '0'})
-            EXPECT_FALSE(accepte(fConform_OC_IND_M, "", avec(bon, col, c), IND_M, LenIND_M))
+            EXPECT_FALSE(accepte(fConform_OC_IND_M, "", avec(bon, col, c), IND_M))
                 << "colonne " << col << " \"" << c << "\"";
     for (std::size_t longueur = 0; longueur <= 13; ++longueur)
-        EXPECT_EQ(accepte(fConform_OC_IND_M, "", (bon + " ").substr(0, longueur), IND_M, LenIND_M),
-                  longueur == 12)
+        EXPECT_EQ(accepte(fConform_OC_IND_M, "", (bon + " ").substr(0, longueur), IND_M), longueur == 12)
             << "longueur " << longueur;
 }
 
@@ -510,7 +506,7 @@ TEST(ConformiteOvin, Indicatif) {
 
 TEST(ConformiteModele, SansBlancPuisDeuxBlancs) {
     const std::string bon = "AZE123  ";
-    verdicts("fConform_OC_model1", fConform_OC_model1, nullptr, 0,
+    verdicts("fConform_OC_model1", fConform_OC_model1, sansListe,
              {{"", bon, true},
               {"", "\xE9/*-.a  ", true},
               {"", "\xA0ZE123  ", true},
@@ -534,18 +530,17 @@ TEST(ConformiteModele, CaractereDansLaListe) {
         const char* nom;
         fVerif* verif;
         int col;
-        const tValAutorise* liste;
-        int lenListe;
+        const liste& caracteres;
         const char* lettres;
         bool bovin;
     };
     const ligne table[] = {
-        {"fConform_OC_model2", fConform_OC_model2, 1, FAB_REP, LenFAB_REP, "ABCDEFGHIJKLMN", false},
-        {"fConform_OC_model3", fConform_OC_model3, 2, C2_MODEL, LenC2_MODEL, "ZCO", false},
-        {"fConform_OC_model4", fConform_OC_model4, 3, C3_MODEL, LenC3_MODEL, "EC", false},
-        {"fConform_BV_model2", fConform_BV_model2, 1, FAB_REP, LenFAB_REP, "ABCDEFGHIJKLMN", true},
-        {"fConform_BV_model3", fConform_BV_model3, 2, C2_MODEL_BV, LenC2_MODEL_BV, "B", true},
-        {"fConform_BV_model4", fConform_BV_model4, 3, C3_MODEL_BV, LenC3_MODEL_BV, "EC", true},
+        {"fConform_OC_model2", fConform_OC_model2, 1, FAB_REP, "ABCDEFGHIJKLMN", false},
+        {"fConform_OC_model3", fConform_OC_model3, 2, C2_MODEL, "ZCO", false},
+        {"fConform_OC_model4", fConform_OC_model4, 3, C3_MODEL, "EC", false},
+        {"fConform_BV_model2", fConform_BV_model2, 1, FAB_REP, "ABCDEFGHIJKLMN", true},
+        {"fConform_BV_model3", fConform_BV_model3, 2, C2_MODEL_BV, "B", true},
+        {"fConform_BV_model4", fConform_BV_model4, 3, C3_MODEL_BV, "EC", true},
     };
     for (const ligne& l : table) {
         for (const std::string fond : {"??????  ", "        ", "ABE123  "})
@@ -554,28 +549,26 @@ TEST(ConformiteModele, CaractereDansLaListe) {
                 const std::string modele = avec(fond, l.col, c);
                 const bool attendu =
                     std::string(l.lettres).find(c) != std::string::npos || (l.bovin && modele == HUIT_BLANCS);
-                EXPECT_EQ(accepte(l.verif, "", modele, l.liste, l.lenListe), attendu)
+                EXPECT_EQ(accepte(l.verif, "", modele, l.caracteres), attendu)
                     << l.nom << " \"" << modele << "\"";
             }
         // The model ends with its tested character, or just before it.
         std::string court(static_cast<std::size_t>(l.col), l.lettres[0]);
-        EXPECT_TRUE(accepte(l.verif, "", court, l.liste, l.lenListe)) << l.nom << " " << court;
+        EXPECT_TRUE(accepte(l.verif, "", court, l.caracteres)) << l.nom << " " << court;
         court.pop_back();
-        EXPECT_FALSE(accepte(l.verif, "", court, l.liste, l.lenListe)) << l.nom << " " << court;
-        EXPECT_FALSE(accepte(l.verif, "", "", l.liste, l.lenListe)) << l.nom;
-        EXPECT_FALSE(accepte(l.verif, "", std::string(7, ' '), l.liste, l.lenListe)) << l.nom;
-        EXPECT_FALSE(accepte(l.verif, "", std::string(9, ' '), l.liste, l.lenListe)) << l.nom;
+        EXPECT_FALSE(accepte(l.verif, "", court, l.caracteres)) << l.nom << " " << court;
+        EXPECT_FALSE(accepte(l.verif, "", "", l.caracteres)) << l.nom;
+        EXPECT_FALSE(accepte(l.verif, "", std::string(7, ' '), l.caracteres)) << l.nom;
+        EXPECT_FALSE(accepte(l.verif, "", std::string(9, ' '), l.caracteres)) << l.nom;
         // List ends.
         const std::string dernier(8, l.lettres[std::string(l.lettres).size() - 1]);
-        EXPECT_TRUE(accepte(l.verif, "", dernier, l.liste, l.lenListe)) << l.nom;
-        EXPECT_FALSE(accepte(l.verif, "", dernier, l.liste, l.lenListe - 1)) << l.nom;
-        EXPECT_FALSE(accepte(l.verif, "", dernier, l.liste, 0)) << l.nom;
-        EXPECT_FALSE(accepte(l.verif, "", dernier, nullptr, -1)) << l.nom;
-        EXPECT_EQ(accepte(l.verif, "", HUIT_BLANCS, l.liste, 0), l.bovin) << l.nom;
+        EXPECT_TRUE(accepte(l.verif, "", dernier, l.caracteres)) << l.nom;
+        EXPECT_FALSE(accepte(l.verif, "", dernier, sansListe)) << l.nom;
+        EXPECT_EQ(accepte(l.verif, "", HUIT_BLANCS, sansListe), l.bovin) << l.nom;
         // A special code stands or falls with its own letter.
         for (const std::string& code : CODES_SPECIAUX)
             EXPECT_EQ(
-                accepte(l.verif, "", code, l.liste, l.lenListe),
+                accepte(l.verif, "", code, l.caracteres),
                 std::string(l.lettres).find(code[static_cast<std::size_t>(l.col) - 1]) != std::string::npos)
                 << l.nom << " " << code;
     }
@@ -585,7 +578,7 @@ TEST(ConformiteModele, TroisChiffres) {
     for (const bool bovin : {false, true}) {
         fVerif* const verif = bovin ? fConform_BV_model5 : fConform_OC_model5;
         const char* const nom = bovin ? "fConform_BV_model5" : "fConform_OC_model5";
-        verdicts(nom, verif, nullptr, 0,
+        verdicts(nom, verif, sansListe,
                  {{"", "AZE123  ", true},
                   {"", "   000**", true},
                   {"", "999999", true},
@@ -611,12 +604,12 @@ TEST(ConformiteModele, TroisChiffres) {
 // ------------------------------------ country of origin, counter, witness
 
 TEST(ConformiteOrigine, PaysListePourFRBlancsAilleurs) {
-    for (int i = 0; i < LenTP; ++i) {
-        EXPECT_TRUE(accepte(fConform_OC_pays_orig, "FR", TP[i].valeur, TP, LenTP)) << TP[i].valeur;
-        EXPECT_FALSE(accepte(fConform_OC_pays_orig, "DE", TP[i].valeur, TP, LenTP)) << TP[i].valeur;
+    for (int i = 0; i < TP.nombre(); ++i) {
+        EXPECT_TRUE(accepte(fConform_OC_pays_orig, "FR", TP[i].valeur, TP)) << TP[i].valeur;
+        EXPECT_FALSE(accepte(fConform_OC_pays_orig, "DE", TP[i].valeur, TP)) << TP[i].valeur;
     }
     verdicts(
-        "fConform_OC_pays_orig", fConform_OC_pays_orig, TP, LenTP,
+        "fConform_OC_pays_orig", fConform_OC_pays_orig, TP,
         {{"FR", "DE", true},       {"FR", "FR", true},  {"FR", "AF", true},        {"FR", "XI", true},
          {"FR", "GR", false},      {"FR", "XX", false}, {"FR", "de", false},       {"FR", "DE ", false},
          {"FR", "D", false},       {"FR", "", false},   {"FR", "  ", false},       {"FR", "**", false},
@@ -624,12 +617,12 @@ TEST(ConformiteOrigine, PaysListePourFRBlancsAilleurs) {
          {"DE", "   ", false},     {"DE", "**", false}, {"DE", "\xA0\xA0", false}, {"NORM01  ", "  ", true},
          {"NORM01  ", "DE", false}});
     for (const std::string& pays : FAUX_PAYS) {
-        EXPECT_TRUE(accepte(fConform_OC_pays_orig, pays, "  ", TP, LenTP)) << "\"" << pays << "\"";
-        EXPECT_FALSE(accepte(fConform_OC_pays_orig, pays, "DE", TP, LenTP)) << "\"" << pays << "\"";
+        EXPECT_TRUE(accepte(fConform_OC_pays_orig, pays, "  ", TP)) << "\"" << pays << "\"";
+        EXPECT_FALSE(accepte(fConform_OC_pays_orig, pays, "DE", TP)) << "\"" << pays << "\"";
     }
     for (const std::string& code : CODES_SPECIAUX) {
-        EXPECT_TRUE(accepte(fConform_OC_pays_orig, "FR", code, TP, LenTP)) << code;
-        EXPECT_FALSE(accepte(fConform_OC_pays_orig, "DE", code, TP, LenTP)) << code;
+        EXPECT_TRUE(accepte(fConform_OC_pays_orig, "FR", code, TP)) << code;
+        EXPECT_FALSE(accepte(fConform_OC_pays_orig, "DE", code, TP)) << code;
     }
 }
 

@@ -6,8 +6,10 @@
 #include <vector>
 
 #include "calendar/horloge.h"
-#include "checks/utils.h"
+#include "checks/dates.h"
+#include "checks/valautorise.h"
 #include "support/magasin.h"
+#include "vocabulaire/store.h"
 
 namespace {
 
@@ -378,12 +380,12 @@ TEST(Dates, CausesEtLeursLimites) {
                 s.prouver({{trouvee->dernierJour, champ, true}, {trouvee->lendemain, champ, false}});
         }
     };
-    essayer(SUJET(fVerifValAutDate, TCME, LenTCME), ENTREES);
-    essayer(SUJET(fVerifValAutDate, TCMS, LenTCMS), SORTIES);
+    essayer(SUJET(fVerifValAutDate, TCME), ENTREES);
+    essayer(SUJET(fVerifValAutDate, TCMS), SORTIES);
 }
 
 TEST(Dates, CauseInconnueOuDateIncomplete) {
-    SUJET(fVerifValAutDate, TCMS, LenTCMS)
+    SUJET(fVerifValAutDate, TCMS)
         .prouver({
             {"01011990", "X", false},        {"01011990", "b", false},
             {"01011990", "", false},         {"01011990", " ", false},
@@ -400,24 +402,17 @@ TEST(Dates, CauseInconnueOuDateIncomplete) {
         });
 }
 
-TEST(Dates, ListeDeCausesCourteOuImpaire) {
-    const tValAutorise LISTE[] = {"A", "31122004", "B", "TOUJOURS", "A", "TOUJOURS"};
-    struct ligne {
-        int len;
-        bool A, B;  // A valid on the day, B
-    };
-    for (const ligne& l : {ligne{-3, false, false},
-                           {0, false, false},
-                           {1, false, false},
-                           {2, true, false},
-                           {3, true, false},
-                           {4, true, true},
-                           {5, true, true},
-                           {6, true, true}})
-        sujet{"fVerifValAutDate", fVerifValAutDate, LISTE, l.len}.prouver(
-            {{"31122004", "A", l.A}, {"01012005", "A", false}, {"01012005", "B", l.B}});
-    // An odd list's last code has no limit and does not count.
-    SUJET(fVerifValAutDate, TCMS, LenTCMS - 1).prouver({{"01011990", "T", false}, {"01011990", "S", true}});
+TEST(Dates, ListeDeCausesCourteOuDAutreForme) {
+    const liste UNE = {{"A", "31122004"}, 2};
+    const liste TROIS = {{"A", "31122004", "B", "TOUJOURS", "A", "TOUJOURS"}, 2};
+    SUJET(fVerifValAutDate).prouver({{"31122004", "A", false}});
+    sujet{"fVerifValAutDate", fVerifValAutDate, &UNE}.prouver(
+        {{"31122004", "A", true}, {"01012005", "A", false}, {"01012005", "B", false}});
+    // The first row of a cause decides.
+    sujet{"fVerifValAutDate", fVerifValAutDate, &TROIS}.prouver(
+        {{"31122004", "A", true}, {"01012005", "A", false}, {"01012005", "B", true}});
+    const liste SIMPLE = {{"A", "TOUJOURS"}};
+    sujet{"fVerifValAutDate", fVerifValAutDate, &SIMPLE}.prouver({{"31122004", "A", false}});
 }
 
 // ---------------------------------------------------------------- times

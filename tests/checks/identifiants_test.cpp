@@ -12,8 +12,10 @@
 #include <string>
 #include <vector>
 
-#include "checks/utils.h"
+#include "checks/identifiants.h"
+#include "checks/valautorise.h"
 #include "support/champ.h"
+#include "vocabulaire/store.h"
 
 namespace {
 
@@ -396,10 +398,9 @@ TEST(IdentifiantsDateComplete, ChaqueOctetAChaqueColonne) {
 // ------------------------------------------------------ EGET holding codes
 
 /** The holding code check under a production kind. */
-bool eget(const std::string& production, const std::string& champ, const tValAutorise* liste = NEV,
-          int len = LenNEV) {
+bool eget(const std::string& production, const std::string& champ, const liste& series = NEV) {
     remplir(valCorpsVSE[C4], production);
-    return accepte(fConformEget, "", champ, liste, len);
+    return accepte(fConformEget, "", champ, series);
 }
 
 TEST(IdentifiantsEget, Volailles) {
@@ -449,7 +450,7 @@ TEST(IdentifiantsEget, Volailles) {
 // Every pair of characters: accepted when it stands anywhere in some body's series.
 TEST(IdentifiantsEget, VolaillesChaquePrefixe) {
     std::set<std::string> paires;
-    for (int i = 1; i < LenNEV; i += 2) {
+    for (int i = 1; i < NEV.nombre(); i += 2) {
         const std::string series = NEV[i].valeur;
         for (std::size_t p = 0; p + 1 < series.size(); ++p)
             paires.insert(series.substr(p, 2));
@@ -463,18 +464,17 @@ TEST(IdentifiantsEget, VolaillesChaquePrefixe) {
 }
 
 TEST(IdentifiantsEget, VolaillesCompteDeLaListe) {
-    struct {
-        int len;
-        bool premiere, deuxieme;
-    } const rows[] = {{-1, false, false}, {0, false, false}, {1, false, false},   {2, true, false},
-                      {3, true, false},   {4, true, true},   {LenNEV, true, true}};
-    for (const auto& r : rows) {
-        EXPECT_EQ(eget("V", "AAB12       ", NEV, r.len), r.premiere) << r.len;
-        EXPECT_EQ(eget("V", "CAB12       ", NEV, r.len), r.deuxieme) << r.len;
-    }
-    EXPECT_FALSE(eget("V", "AAB12       ", nullptr, 0));
+    const liste une = {{"001IPG", "AA,BA"}, 2};
+    const liste deux = {{"001IPG", "AA,BA", "002IPG", "CA,DA"}, 2};
+    EXPECT_TRUE(eget("V", "AAB12       ", une));
+    EXPECT_FALSE(eget("V", "CAB12       ", une));
+    EXPECT_TRUE(eget("V", "AAB12       ", deux));
+    EXPECT_TRUE(eget("V", "CAB12       ", deux));
+    // A list of another shape has no series, and no list none.
+    EXPECT_FALSE(eget("V", "AAB12       ", liste{{"001IPG", "AA"}}));
+    EXPECT_FALSE(eget("V", "AAB12       ", sansListe));
     // The list has no part in the other kind.
-    EXPECT_TRUE(eget("P", "75AB1       ", nullptr, 0));
+    EXPECT_TRUE(eget("P", "75AB1       ", sansListe));
 }
 
 TEST(IdentifiantsEget, Porcins) {
@@ -567,8 +567,8 @@ TEST(IdentifiantsEget, GenreDeProduction) {
     EXPECT_TRUE(eget("P", "75AB1       "));
     // The dependency is not looked at.
     remplir(valCorpsVSE[C4], "P");
-    EXPECT_TRUE(accepte(fConformEget, "V", "75AB1       ", NEV, LenNEV));
-    EXPECT_FALSE(accepte(fConformEget, "V", "PAB12       ", NEV, LenNEV));
+    EXPECT_TRUE(accepte(fConformEget, "V", "75AB1       ", NEV));
+    EXPECT_FALSE(accepte(fConformEget, "V", "PAB12       ", NEV));
 }
 
 // ----------------------------------------------------------- departments
@@ -577,8 +577,8 @@ TEST(IdentifiantsConform3, ChaqueDebut) {
     for (int n = 0; n < 1000; ++n) {
         const bool attendu = (n >= 1 && n <= 95 && n != 20) || n == 98 || (n >= 971 && n <= 974) || n == 976;
         const std::string debut = chiffresDe(n, 3);
-        EXPECT_EQ(accepte(fConform3, "", debut, TDD, LenTDD), attendu) << debut;
-        EXPECT_EQ(accepte(fConform3, "", debut + "A1234\xE9   ", TDD, LenTDD), attendu) << debut;
+        EXPECT_EQ(accepte(fConform3, "", debut, TDD), attendu) << debut;
+        EXPECT_EQ(accepte(fConform3, "", debut + "A1234\xE9   ", TDD), attendu) << debut;
     }
 }
 
@@ -609,24 +609,22 @@ TEST(IdentifiantsConform3, Bords) {
          false},
     };
     for (const cas& c : rows)
-        EXPECT_EQ(accepte(fConform3, "", c.texte, TDD, LenTDD), c.attendu) << c.texte;
+        EXPECT_EQ(accepte(fConform3, "", c.texte, TDD), c.attendu) << c.texte;
     // No favour for the special codes.
     for (const std::string& code : CODES_SPECIAUX)
-        EXPECT_FALSE(accepte(fConform3, "", code, TDD, LenTDD)) << code;
+        EXPECT_FALSE(accepte(fConform3, "", code, TDD)) << code;
 }
 
 TEST(IdentifiantsConform3, CompteDeLaListe) {
-    for (const int len : {0, -1, -102})
-        EXPECT_FALSE(accepte(fConform3, "", "001", TDD, len)) << len;
-    EXPECT_FALSE(accepte(fConform3, "", "001", nullptr, 0));
-    EXPECT_TRUE(accepte(fConform3, "", "001", TDD, 1));
-    EXPECT_FALSE(accepte(fConform3, "", "002", TDD, 1));
-    EXPECT_TRUE(accepte(fConform3, "001", "098", TDD, LenTDD));
-    EXPECT_FALSE(accepte(fConform3, "001", "098", TDD, LenTDD - 1));
+    EXPECT_FALSE(accepte(fConform3, "", "001", sansListe));
+    const liste une = {{"001"}};
+    EXPECT_TRUE(accepte(fConform3, "", "001", une));
+    EXPECT_FALSE(accepte(fConform3, "", "002", une));
+    EXPECT_TRUE(accepte(fConform3, "001", "098", TDD));
     // Only three characters of an entry count.
-    constexpr tValAutorise longue[] = {"02AIPG  "};
-    EXPECT_TRUE(accepte(fConform3, "", "02AXYZ", longue, 1));
-    EXPECT_FALSE(accepte(fConform3, "", "02BIPG  ", longue, 1));
+    const liste longue = {{"02AIPG  "}};
+    EXPECT_TRUE(accepte(fConform3, "", "02AXYZ", longue));
+    EXPECT_FALSE(accepte(fConform3, "", "02BIPG  ", longue));
 }
 
 }  // namespace

@@ -8,8 +8,11 @@
 #include <string>
 #include <vector>
 
-#include "checks/utils.h"
+#include "checks/listes.h"
+#include "checks/valautorise.h"
 #include "support/champ.h"
+#include "vocabulaire/regle.h"
+#include "vocabulaire/store.h"
 
 namespace {
 
@@ -52,10 +55,12 @@ const std::string etoiles(12, '*');
 
 TEST(ListesVerifValAut, EgaliteEntiere) {
     // What is behind a terminator is no part of the entry.
-    constexpr tValAutorise liste[] = {"FR", "A", "ABCDEFGH", "ABCDEFGHI", "ABCDEFGHIJ  ", "\xE9t\xE9", "  ",
-                                      "abcdef\xE9\0Y",
-                                      // and a list long enough to be searched by keys
-                                      "zz1", "zz2", "zz3"};
+    const liste onze = {{"FR", "A", "ABCDEFGH", "ABCDEFGHI", "ABCDEFGHIJ  ", "\xE9t\xE9", "  ",
+                         "abcdef\xE9\0Y",
+                         // and a list long enough to be searched by keys
+                         "zz1", "zz2", "zz3"}};
+    const liste huit = {
+        {"FR", "A", "ABCDEFGH", "ABCDEFGHI", "ABCDEFGHIJ  ", "\xE9t\xE9", "  ", "abcdef\xE9\0Y"}};
     const cas rows[] = {
         {"FR", true},
         {"FR ", false},
@@ -88,88 +93,76 @@ TEST(ListesVerifValAut, EgaliteEntiere) {
         {"abcdefi", false},
     };
     for (const cas& c : rows)
-        for (const int nombre : {8, 11}) {
-            EXPECT_EQ(accepte(fVerifValAut, "", c.champ, liste, nombre), c.attendu) << '"' << c.champ << '"';
-            EXPECT_EQ(dansListe(c.champ, liste, nombre) != 0, c.attendu) << '"' << c.champ << '"';
+        for (const liste* l : {&huit, &onze}) {
+            EXPECT_EQ(accepte(fVerifValAut, "", c.champ, *l), c.attendu) << '"' << c.champ << '"';
+            EXPECT_EQ(dansListe(c.champ, *l) != 0, c.attendu) << '"' << c.champ << '"';
         }
 }
 
 TEST(ListesVerifValAut, CodesSpeciauxPassentToutesLesListes) {
-    const struct {
-        const char* nom;
-        const tValAutorise* liste;
-        int len;
-    } listes[] = {{"FR", FR, LenFR}, {"vide", FR, 0}, {"negative", FR, -1}, {"absente", nullptr, 0}};
-    for (const auto& l : listes) {
+    for (const liste* l : {&FR, &TD, &sansListe}) {
         for (const std::string& code : CODES_SPECIAUX) {
-            EXPECT_TRUE(accepte(fVerifValAut, "", code, l.liste, l.len)) << l.nom << ' ' << code;
-            EXPECT_TRUE(dansListe(code.c_str(), l.liste, l.len)) << l.nom << ' ' << code;
-            EXPECT_FALSE(dansListeStricte(code.c_str(), l.liste, l.len)) << l.nom << ' ' << code;
+            EXPECT_TRUE(accepte(fVerifValAut, "", code, *l)) << l->nombre() << ' ' << code;
+            EXPECT_TRUE(dansListe(code.c_str(), *l)) << l->nombre() << ' ' << code;
+            EXPECT_FALSE(dansListeStricte(code.c_str(), *l)) << l->nombre() << ' ' << code;
         }
         for (const std::string& texte : PRESQUE_SPECIAUX)
-            EXPECT_FALSE(accepte(fVerifValAut, "", texte, l.liste, l.len)) << l.nom << ' ' << texte;
+            EXPECT_FALSE(accepte(fVerifValAut, "", texte, *l)) << l->nombre() << ' ' << texte;
     }
 }
 
 TEST(ListesVerifValAut, ListeVideRefuseTout) {
-    for (const int len : {0, -1, -97}) {
-        EXPECT_FALSE(accepte(fVerifValAut, "", "FR", FR, len)) << len;
-        EXPECT_FALSE(accepte(fVerifValAut, "", "", FR, len)) << len;
-        EXPECT_FALSE(accepte(fVerifValAut, "", "FR", nullptr, len)) << len;
-    }
+    for (const char* texte : {"FR", "", " "})
+        EXPECT_FALSE(accepte(fVerifValAut, "", texte, sansListe)) << texte;
 }
 
 TEST(ListesVerifValAut, DependanceSansEffet) {
-    EXPECT_TRUE(accepte(fVerifValAut, "FR", "FR", FR, LenFR));
-    EXPECT_FALSE(accepte(fVerifValAut, "DE", "DE", FR, LenFR));
-    EXPECT_FALSE(accepte(fVerifValAut, "NORM01  ", "DE", FR, LenFR));
+    EXPECT_TRUE(accepte(fVerifValAut, "FR", "FR", FR));
+    EXPECT_FALSE(accepte(fVerifValAut, "DE", "DE", FR));
+    EXPECT_FALSE(accepte(fVerifValAut, "NORM01  ", "DE", FR));
 }
 
 TEST(ListesVerifDiffNull, RefuseLesEntrees) {
     const std::string onze(11, ' ');
-    EXPECT_FALSE(accepte(fVerifDiffNull, "", douze, DouzeBlancs, LenDouzeBlancs));
+    EXPECT_FALSE(accepte(fVerifDiffNull, "", douze, DouzeBlancs));
     for (const std::string& champ :
          {onze, onze + "A", onze + "*", "A" + onze, douze + " ", etoiles, std::string()})
-        EXPECT_TRUE(accepte(fVerifDiffNull, "", champ, DouzeBlancs, LenDouzeBlancs)) << '"' << champ << '"';
+        EXPECT_TRUE(accepte(fVerifDiffNull, "", champ, DouzeBlancs)) << '"' << champ << '"';
 
     const cas rows[] = {{"T", false}, {"N", false}, {"U", true},   {"TN", true},
                         {"T ", true}, {"", true},   {"\xD4", true}};
     for (const cas& c : rows)
-        EXPECT_EQ(accepte(fVerifDiffNull, "", c.champ, TOUN, LenTOUN), c.attendu) << '"' << c.champ << '"';
-    EXPECT_TRUE(accepte(fVerifDiffNull, "", "N", TOUN, 1)) << "behind the count";
+        EXPECT_EQ(accepte(fVerifDiffNull, "", c.champ, TOUN), c.attendu) << '"' << c.champ << '"';
 }
 
 TEST(ListesVerifDiffNull, ListeVideAccepteTout) {
-    for (const int len : {0, -1})
-        for (const std::string& champ : {std::string(), douze, std::string("FR")}) {
-            EXPECT_TRUE(accepte(fVerifDiffNull, "", champ, DouzeBlancs, len)) << len << champ;
-            EXPECT_TRUE(accepte(fVerifDiffNull, "", champ, nullptr, len)) << len << champ;
-        }
+    for (const std::string& champ : {std::string(), douze, std::string("FR")})
+        EXPECT_TRUE(accepte(fVerifDiffNull, "", champ, sansListe)) << champ;
 }
 
 TEST(ListesVerifDiffNull, CodesSpeciauxSansFaveur) {
-    constexpr tValAutorise liste[] = {"NORMABEV", "NORM01  ", "NORM02  ", "PFOC01  "};
+    const liste speciaux = {{"NORMABEV", "NORM01  ", "NORM02  ", "PFOC01  "}};
     for (const std::string& code : CODES_SPECIAUX) {
-        EXPECT_FALSE(accepte(fVerifDiffNull, "", code, liste, 4)) << code;
-        EXPECT_TRUE(accepte(fVerifDiffNull, "", code, HuitBlancs, LenHuitBlancs)) << code;
+        EXPECT_FALSE(accepte(fVerifDiffNull, "", code, speciaux)) << code;
+        EXPECT_TRUE(accepte(fVerifDiffNull, "", code, HuitBlancs)) << code;
     }
 }
 
 // The blank lists that say "must be filled": the blanks of their width alone are refused.
 TEST(ListesVerifDiffNull, ListesDeBlancs) {
     const struct {
-        const tValAutorise* liste;
+        const liste* blanche;
         std::size_t largeur;
-    } listes[] = {{DouzeBlancs, 12}, {cinqBlancs, 5},    {quatreBlancs, 4},   {quatorzeBlancs, 14},
-                  {vingtBlancs, 20}, {trenteBlancs, 30}, {soixanteBlancs, 60}};
+    } listes[] = {{&DouzeBlancs, 12}, {&cinqBlancs, 5},    {&quatreBlancs, 4},   {&quatorzeBlancs, 14},
+                  {&vingtBlancs, 20}, {&trenteBlancs, 30}, {&soixanteBlancs, 60}};
     for (const auto& l : listes)
         for (std::size_t n = 0; n <= 61; ++n)
-            EXPECT_EQ(accepte(fVerifDiffNull, "", std::string(n, ' '), l.liste, 1), n != l.largeur)
+            EXPECT_EQ(accepte(fVerifDiffNull, "", std::string(n, ' '), *l.blanche), n != l.largeur)
                 << l.largeur << ": " << n;
 }
 
 TEST(ListesDebut, PremiersCaracteresSeuls) {
-    constexpr tValAutorise liste[] = {"02Axyz", "ABCDEFGHIJ", "Z"};
+    const liste trois = {{"02Axyz", "ABCDEFGHIJ", "Z"}};
     const struct {
         const char* texte;
         int n;
@@ -181,12 +174,11 @@ TEST(ListesDebut, PremiersCaracteresSeuls) {
         {"Z1", 1, true},        {"\xE9", 1, false},
     };
     for (const auto& r : rows)
-        EXPECT_EQ(debutDansListe(r.texte, liste, 3, r.n) != 0, r.attendu) << r.texte << ' ' << r.n;
-    for (const int len : {0, -1})
-        EXPECT_FALSE(debutDansListe("02A", liste, len, 3)) << len;
-    EXPECT_FALSE(debutDansListe("ABC", liste, 1, 3)) << "behind the count";
+        EXPECT_EQ(debutDansListe(r.texte, trois, r.n) != 0, r.attendu) << r.texte << ' ' << r.n;
+    EXPECT_FALSE(debutDansListe("02A", sansListe, 3));
+    EXPECT_FALSE(debutDansListe("ABC", liste{{"02Axyz"}}, 3));
     for (const std::string& code : CODES_SPECIAUX)
-        EXPECT_FALSE(debutDansListe(code.c_str(), liste, 3, 3)) << code;
+        EXPECT_FALSE(debutDansListe(code.c_str(), trois, 3)) << code;
 }
 
 // The three checks of blanks side by side: _SD, _SDN and the strict one.
@@ -376,7 +368,7 @@ TEST(Listes, ChampInchange) {
     for (fVerif* verif : verifs)
         for (const std::string& champ : {std::string("AB12    "), std::string(" A B  "), douze, etoiles}) {
             std::string apres;
-            accepte(verif, "DE", champ, FR, LenFR, &apres);
+            accepte(verif, "DE", champ, FR, &apres);
             EXPECT_EQ(apres, champ);
         }
 }

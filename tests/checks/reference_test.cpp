@@ -3,8 +3,11 @@
 #include <string>
 #include <vector>
 
-#include "checks/utils.h"
+#include "checks/reference.h"
+#include "checks/valautorise.h"
 #include "support/magasin.h"
+#include "vocabulaire/regle.h"
+#include "vocabulaire/store.h"
 
 using namespace quilvane;
 using namespace essai;
@@ -80,9 +83,9 @@ TEST(Reference, DateAuPlusTot) {
 
 TEST(Reference, BlancAvantLaDateEtEnListeDepuis) {
     const std::vector<bascule> BASCULES = {
-        {SUJET(fVTABP5, TP, LenTP), "30061999", "01071999"},
-        {SUJET(fVTABP6, FR, LenFR), "30061999", "01071999"},
-        {SUJET(fVTABP8, TR, LenTR), "31121998", "01011999"},
+        {SUJET(fVTABP5, TP), "30061999", "01071999"},
+        {SUJET(fVTABP6, FR), "30061999", "01071999"},
+        {SUJET(fVTABP8, TR), "31121998", "01011999"},
     };
     const std::vector<std::string> VIDES = {"", " ", "  ", blancs(12), blancs(98)};
     for (const bascule& b : BASCULES) {
@@ -92,7 +95,7 @@ TEST(Reference, BlancAvantLaDateEtEnListeDepuis) {
         memeVerdict(b.s, b.jour, VIDES, false);
         memeVerdict(b.s, "21112026", VIDES, false);
         for (const std::string& date : {b.veille, b.jour}) {
-            memeVerdict(b.s, date, {b.s.liste[0].valeur, b.s.liste[b.s.len - 1].valeur}, true);
+            memeVerdict(b.s, date, {b.s.sverif->begin()->valeur, (b.s.sverif->end() - 1)->valeur}, true);
             memeVerdict(b.s, date, SPECIAUX, true);
             memeVerdict(b.s, date,
                         {"ZZ", "99", "F", "FRX", "FR ", " FR", "fr", "**", "NORM01", "\xA0\xA0",
@@ -105,14 +108,14 @@ TEST(Reference, BlancAvantLaDateEtEnListeDepuis) {
 TEST(Reference, ListeAvecUnBlancOuUnLongTexte) {
     const std::string long98 = lettres(98);
     const std::string long99 = lettres(99);
-    const tValAutorise LISTE[] = {"  ", long98.c_str(), long99.c_str()};
+    const liste LISTE = {{"  ", long98.c_str(), long99.c_str()}};
     for (fVerif* verif : {fVTABP5, fVTABP6, fVTABP8}) {
-        const sujet s{"fVTABP5a8", verif, LISTE, 3};
+        const sujet s{"fVTABP5a8", verif, &LISTE};
         memeVerdict(s, "01072000", {"  ", long98}, true);
         memeVerdict(s, "01072000", {"", " ", "   ", long99}, false);
         memeVerdict(s, "01011990", {"  ", "", long98}, true);
         memeVerdict(s, "01011990", {long99, blancs(99)}, false);
-        memeVerdict({"fVTABP5a8", verif, LISTE, 0}, "01072000", {"  ", long98}, false);
+        memeVerdict({"fVTABP5a8", verif}, "01072000", {"  ", long98}, false);
     }
 }
 
@@ -138,7 +141,7 @@ TEST(Reference, RempliDepuisLaDate) {
 // --------------------------------------------- lists with an exception
 
 TEST(Reference, DeuxBlancsOuAsterisquesOuEnListe) {
-    const sujet s = SUJET(fVDIFFNULLVTAB, TP, LenTP);
+    const sujet s = SUJET(fVDIFFNULLVTAB, TP);
     for (const char* dependance : {"", "01071999", "XX"}) {
         memeVerdict(s, dependance, {"  ", "**", "   ", "  QQ", "**QQ", "***", "AF", "FR", "XI"}, true);
         memeVerdict(s, dependance, SPECIAUX, true);
@@ -150,18 +153,18 @@ TEST(Reference, DeuxBlancsOuAsterisquesOuEnListe) {
 }
 
 TEST(Reference, EnListeMaisPasFR) {
-    const sujet s = SUJET(fVTABDIFFFR, TECH, LenTECH);
+    const sujet s = SUJET(fVTABDIFFFR, TECH);
     memeVerdict(s, "", {"AT", "CH", "DE", "XI"}, true);
     memeVerdict(s, "", SPECIAUX, true);
     memeVerdict(s, "", {"FR", "US", "", "  ", "**", "CH ", "ch", "C"}, false);
     memeVerdict(s, "FR", {"CH"}, true);
-    const tValAutorise LISTE[] = {"FR", "FR ", "FRX"};
-    memeVerdict({"fVTABDIFFFR", fVTABDIFFFR, LISTE, 3}, "", {"FR ", "FRX"}, true);
-    memeVerdict({"fVTABDIFFFR", fVTABDIFFFR, LISTE, 3}, "", {"FR"}, false);
+    const liste LISTE = {{"FR", "FR ", "FRX"}};
+    memeVerdict({"fVTABDIFFFR", fVTABDIFFFR, &LISTE}, "", {"FR ", "FRX"}, true);
+    memeVerdict({"fVTABDIFFFR", fVTABDIFFFR, &LISTE}, "", {"FR"}, false);
 }
 
 TEST(Reference, DeuxBlancsExactementOuEnListe) {
-    const sujet s = SUJET(fVDIFF2B, TP, LenTP);
+    const sujet s = SUJET(fVDIFF2B, TP);
     memeVerdict(s, "", {"  ", "FR", "AF", "XI"}, true);
     memeVerdict(s, "", SPECIAUX, true);
     memeVerdict(s, "", {"", " ", "   ", "  X", "**", "QQ", "FR ", "fr"}, false);
@@ -169,7 +172,7 @@ TEST(Reference, DeuxBlancsExactementOuEnListe) {
 }
 
 TEST(Reference, DeuxBlancsSiLaDependanceEstRemplie) {
-    const sujet s = SUJET(fVEGALDNULLVTAB, TP, LenTP);
+    const sujet s = SUJET(fVEGALDNULLVTAB, TP);
     for (const std::string& rempli :
          {std::string("X"), std::string(" X"), std::string("\xA0"), lettres(98)}) {
         memeVerdict(s, rempli, {"  ", "   ", "  QQ", "FR", "NORM02  "}, true);
@@ -187,9 +190,9 @@ TEST(Reference, DeuxBlancsSiLaDependanceEstRemplie) {
 TEST(Reference, PaysHorsUnion) {
     const sujet s = SUJET(fPaysNonCEE);
     std::vector<std::string> union29, autres;
-    for (int i = 0; i < LenTCEE; ++i)
+    for (int i = 0; i < TCEE.nombre(); ++i)
         union29.push_back(TCEE[i].valeur);
-    for (int i = 0; i < LenTP; ++i)
+    for (int i = 0; i < TP.nombre(); ++i)
         if (std::find(union29.begin(), union29.end(), TP[i].valeur) == union29.end())
             autres.push_back(TP[i].valeur);
     ASSERT_EQ(union29.size(), 29U);
@@ -206,7 +209,7 @@ TEST(Reference, PaysHorsUnion) {
 TEST(Reference, UnDesDeuxChampsRempli) {
     const std::string B30 = blancs(30);
     const std::string NON_BLANC = "NB" + blancs(28);
-    for (const sujet& s : {SUJET(fVDIFFVD, NB, LenNB)})
+    for (const sujet& s : {SUJET(fVDIFFVD, NB)})
         s.prouver({
             {B30, B30, false},
             {B30, NON_BLANC, true},
@@ -224,14 +227,14 @@ TEST(Reference, UnDesDeuxChampsRempli) {
             {"", "", true},
         });
     // Two blank fields pass when that is what the list's first entry says.
-    SUJET(fVDIFFVD, trenteBlancs, LentrenteBlancs).prouver({{B30, B30, true}, {B30, "X", true}});
-    const tValAutorise SECONDE[] = {"NB", B30.c_str()};
-    sujet{"fVDIFFVD", fVDIFFVD, SECONDE, 2}.prouver({{B30, B30, false}});
+    SUJET(fVDIFFVD, trenteBlancs).prouver({{B30, B30, true}, {B30, "X", true}});
+    const liste SECONDE = {{"NB", B30.c_str()}};
+    sujet{"fVDIFFVD", fVDIFFVD, &SECONDE}.prouver({{B30, B30, false}});
 }
 
 TEST(Reference, UnDesDeuxChampsRempliVuDeLaDependance) {
     const std::string B30 = blancs(30);
-    SUJET(fCDIFF, trenteBlancs, LentrenteBlancs)
+    SUJET(fCDIFF, trenteBlancs)
         .prouver({
             {B30, B30, false},
             {"", B30, false},
@@ -251,13 +254,12 @@ TEST(Reference, UnDesDeuxChampsRempliVuDeLaDependance) {
             {lettres(99), "X", false},
             {blancs(99), "X", false},
         });
-    const tValAutorise LISTE[] = {"A", "B", "NORM01  "};
-    sujet{"fCDIFF", fCDIFF, LISTE, 2}.prouver(
+    const liste DEUX = {{"A", "B"}};
+    sujet{"fCDIFF", fCDIFF, &DEUX}.prouver(
         {{"", "A", false}, {"", "B", false}, {"", "NORM01  ", true}, {"", "C", true}, {"X", "A", true}});
-    sujet{"fCDIFF", fCDIFF, LISTE, 3}.prouver({{"", "NORM01  ", false}});
-    for (const int len : {0, -1})
-        sujet{"fCDIFF", fCDIFF, LISTE, len}.prouver(
-            {{"", "A", true}, {"X", "A", true}, {lettres(99), "A", false}});
+    const liste SPECIAL = {{"A", "B", "NORM01  "}};
+    sujet{"fCDIFF", fCDIFF, &SPECIAL}.prouver({{"", "NORM01  ", false}});
+    SUJET(fCDIFF).prouver({{"", "A", true}, {"X", "A", true}, {lettres(99), "A", false}});
 }
 
 // ------------------------------------------- tag models, from P17 on
@@ -310,8 +312,8 @@ TEST(Reference, NumeroBlancAvantLaDateOuForme) {
         std::string bon, mauvais;
     };
     const std::vector<ligne> LIGNES = {
-        {SUJET(fCONFORM8FRP6, TD, LenTD), valCorpsVSE[C16].valeur, "35123456    ", "3512345     "},
-        {SUJET(fCONFORM10FRP5, TD, LenTD), valCorpsVSE[C10].valeur, "3512345678  ", "351234567   "},
+        {SUJET(fCONFORM8FRP6, TD), valCorpsVSE[C16].valeur, "35123456    ", "3512345     "},
+        {SUJET(fCONFORM10FRP5, TD), valCorpsVSE[C10].valeur, "3512345678  ", "351234567   "},
     };
     for (const ligne& l : LIGNES) {
         const std::string B12 = blancs(12);
@@ -339,7 +341,7 @@ TEST(Reference, NumeroBlancAvantLaDateOuForme) {
                 lus);
         }
         // The list is the departments' one that the row names.
-        sujet{l.s.nom, l.s.verif, FR, LenFR}.prouver({{"01071999", l.bon, false}}, {{l.pays, "FR"}});
+        sujet{l.s.nom, l.s.verif, &FR}.prouver({{"01071999", l.bon, false}}, {{l.pays, "FR"}});
     }
 }
 
@@ -348,23 +350,23 @@ TEST(Reference, NumeroBlancAvantLaDateOuForme) {
 TEST(Reference, TypeNumeriqueOuDeListe) {
     const std::string B14 = blancs(14);
     const std::string E14(14, '*');
-    memeVerdict(SUJET(fVTYPE, NUM, LenNUM), "",
-                {B14, E14, "0", "9", "12345678901234", "123", std::string(100, '7')}, true);
-    memeVerdict(SUJET(fVTYPE, NUM, LenNUM), "",
+    memeVerdict(SUJET(fVTYPE, NUM), "", {B14, E14, "0", "9", "12345678901234", "123", std::string(100, '7')},
+                true);
+    memeVerdict(SUJET(fVTYPE, NUM), "",
                 {"", "NUM", blancs(13), blancs(15), "*", "12A", "A12", "1 2", "123 ", " 123", "-12", "1.2",
                  "\xB2", "12\xB2", "NORMABEV", "NORM01  "},
                 false);
-    const tValAutorise ALPHA[] = {"ALP", "  ", "**", "ZZ"};
-    memeVerdict({"fVTYPE", fVTYPE, ALPHA, 4}, "", {"  ", "**"}, true);
-    memeVerdict({"fVTYPE", fVTYPE, ALPHA, 4}, "", {"ALP", "ZZ", "12", "", "NORMABEV"}, false);
-    const tValAutorise PRESQUE[] = {"NUM ", "A", "B"};
-    memeVerdict({"fVTYPE", fVTYPE, PRESQUE, 3}, "", {"A", "B"}, true);
-    memeVerdict({"fVTYPE", fVTYPE, PRESQUE, 3}, "", {"12", "NUM "}, false);
+    const liste ALPHA = {{"ALP", "  ", "**", "ZZ"}};
+    memeVerdict({"fVTYPE", fVTYPE, &ALPHA}, "", {"  ", "**"}, true);
+    memeVerdict({"fVTYPE", fVTYPE, &ALPHA}, "", {"ALP", "ZZ", "12", "", "NORMABEV"}, false);
+    const liste PRESQUE = {{"NUM ", "A", "B"}};
+    memeVerdict({"fVTYPE", fVTYPE, &PRESQUE}, "", {"A", "B"}, true);
+    memeVerdict({"fVTYPE", fVTYPE, &PRESQUE}, "", {"12", "NUM "}, false);
 }
 
 TEST(Reference, ColonnesDeLaDependance) {
     const std::string D = "123456ABCD12";
-    const sujet s = SUJET(fVEGDS, D7F10, LenD7F10);
+    const sujet s = SUJET(fVEGDS, D7F10);
     s.prouver({
         {D, "ABCD", true},
         {D, "ABCDE", true},  // its first four characters
@@ -406,8 +408,8 @@ TEST(Reference, ColonnesDeLaDependance) {
              {" 7", "10X", "ABCDZ", true},
              {" 7", "10X", "ABCZ", false},
          }) {
-        const tValAutorise LISTE[] = {l.a, l.b};
-        sujet{l.a, fVEGDS, LISTE, 2}.prouver({{D, l.champ, l.attendu}});
+        const liste COLONNES = {{l.a, l.b}, 2};
+        sujet{l.a, fVEGDS, &COLONNES}.prouver({{D, l.champ, l.attendu}});
     }
 }
 
@@ -467,12 +469,11 @@ TEST(Reference, ColonnesAutresQueZero) {
 
 TEST(Reference, ListesTropCourtesOuHorsDuRecord) {
     // A list with fewer entries than a check reads matches nothing.
-    EXPECT_FALSE(accepte(fVTYPE, "", "              ", NUM, 2));
-    EXPECT_FALSE(accepte(fVEGDS, "abcdefghij", "ghij", D7F10, 1));
-    EXPECT_FALSE(accepte(fVDIFFVD, trenteBlancs[0].valeur, trenteBlancs[0].valeur, trenteBlancs, 0));
+    EXPECT_FALSE(accepte(fVTYPE, "", "              ", liste{{"NUM", "              "}}));
+    EXPECT_FALSE(accepte(fVEGDS, "abcdefghij", "ghij", liste{{"7"}}));
+    EXPECT_FALSE(accepte(fVDIFFVD, trenteBlancs[0].valeur, trenteBlancs[0].valeur, sansListe));
     // Columns that no record has.
-    constexpr tValAutorise COLONNES[][2] = {
-        {"0", "3"}, {"257", "258"}, {"1", "257"}, {"99999999999999999999", "1"}};
-    for (const auto& colonnes : COLONNES)
-        EXPECT_FALSE(accepte(fVEGDS, "abc", "abc", colonnes, 2)) << colonnes[0].valeur;
+    for (const liste& colonnes : {liste{{"0", "3"}, 2}, liste{{"257", "258"}, 2}, liste{{"1", "257"}, 2},
+                                  liste{{"99999999999999999999", "1"}, 2}})
+        EXPECT_FALSE(accepte(fVEGDS, "abc", "abc", colonnes)) << colonnes[0].valeur;
 }

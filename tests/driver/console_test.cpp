@@ -26,8 +26,7 @@ std::string imprime(int mode, const sVu& vu) {
     return imprime([&] { dire(affichageVSE(mode), vu); });
 }
 
-constexpr int AUCUN = 0;
-constexpr sCorps LIGNE = {22, 3, 3, 0, 0, 0, 0, 0, nullptr, &AUCUN, nullptr, "", 31};
+constexpr sCorps LIGNE = {22, 3, 3, 0, 0, 0, 0, 0, nullptr, &sansListe, "", 31};
 
 /** A row event of field 23 in the fifth slot. */
 sVu vu(eVu quoi, const char* valeur = "v", int presence = 0, int numero = 0) {

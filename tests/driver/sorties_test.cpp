@@ -34,7 +34,7 @@ protected:
         std::fclose(fp_emis);
         std::fclose(fp_erre);
         initialiserEtat();
-        viderMagasin();
+        leStore = {};
     }
 
     static std::string contenu(std::FILE* fp) {

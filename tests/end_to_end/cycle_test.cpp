@@ -19,8 +19,9 @@
 #include "driver/etat.h"
 #include "driver/quilvane.h"
 #include "fautes/fautes.h"
-#include "rules/pack.h"
+#include "vocabulaire/pack.h"
 #include "support/attendu.h"
+#include "vocabulaire/store.h"
 
 using namespace essai;
 namespace fs = std::filesystem;

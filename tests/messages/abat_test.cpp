@@ -1,7 +1,13 @@
 #include <gtest/gtest.h>
 
+#include "messages/aiguillage.h"
 #include "messages/cas.h"
-#include "messages/messages.h"
+#include "vocabulaire/regle.h"
+#include "vocabulaire/store.h"
+
+namespace quilvane {
+fVerif vAbat_C2_1, vAbat_C2_2;
+}  // namespace quilvane
 
 using namespace essai;
 using namespace quilvane;
@@ -46,49 +52,63 @@ TEST(Abat, TouteLignePasseEtEchoue) {
         .modele = notice,
         .cas =
             {
-                {0, tous, {{63, "XX"}}, {1}},
-                {1, tous, {{63, "US"}, {65, "            "}}, {1}},
-                {1, tous, {{65, "            "}}, {1, 67}, "a blank number is no French number either"},
-                {2, tous, {{65, "9912345678  "}}, {67}},
-                {3, tous, {{63, "DE"}, {65, "DE12345678  "}}, {1}},
-                {5, tous, {{79, "XX"}}, {31}},
-                {6, tous, {{79, "DE"}, {81, "            "}}, {31}},
-                {6, tous, {{81, "            "}}, {31, 68}, "a blank number is no French holding either"},
-                {7, tous, {{81, "99123456    "}}, {68}},
-                {8, tous, {{93, "31042023"}}, {120}},
-                {9,
+                {LIGNE(C1, fVerifValAut, 1), tous, {{63, "XX"}}, {1}},
+                {LIGNE(C2, presence_C2, 1), tous, {{63, "US"}, {65, "            "}}, {1}},
+                {LIGNE(C2, presence_C2, 1),
+                 tous,
+                 {{65, "            "}},
+                 {1, 67},
+                 "a blank number is no French number either"},
+                {LIGNE(C2, vAbat_C2_1, 67), tous, {{65, "9912345678  "}}, {67}},
+                {LIGNE(C2, vAbat_C2_2, 1), tous, {{63, "DE"}, {65, "DE12345678  "}}, {1}},
+                {LIGNE(C4, fVerif_ASDA, 31), tous, {{79, "XX"}}, {31}},
+                {LIGNE(C5, presence_C5, 31), tous, {{79, "DE"}, {81, "            "}}, {31}},
+                {LIGNE(C5, presence_C5, 31),
+                 tous,
+                 {{81, "            "}},
+                 {31, 68},
+                 "a blank number is no French holding either"},
+                {LIGNE(C5, fVerif_NUM_ASDA, 68), tous, {{81, "99123456    "}}, {68}},
+                {LIGNE(C6, fDATECxad, 120), tous, {{93, "31042023"}}, {120}},
+                {LIGNE(C6, fCoherenDC, 52),
                  tous,
                  {{93, "16032024"}},
                  {52, 124},
                  "an entry after the record date is after a slaughter that is not"},
-                {9,
+                {LIGNE(C6, fCoherenDC, 52),
                  tous,
                  {{93, "16032024"}, {101, "16032024"}},
                  {52, 52},
                  "both dates are after the record date"},
-                {10, tous, {{93, "10031997"}}, {121}},
-                {11, tous, {{101, "31022024"}}, {122}},
-                {12, tous, {{101, "16032024"}}, {52}},
-                {13, tous, {{93, "        "}, {101, "10031997"}}, {123}},
-                {14, tous, {{101, "09012024"}}, {124}},
-                {15, tous, {{109, "12-45678"}}, {68}},
-                {15,
+                {LIGNE(C6, fVerifDateInputPost, 121), tous, {{93, "10031997"}}, {121}},
+                {LIGNE(C7, fDATEC, 122), tous, {{101, "31022024"}}, {122}},
+                {LIGNE(C7, fCoherenDC, 52), tous, {{101, "16032024"}}, {52}},
+                {LIGNE(C7, fVerifDateAbatPost, 123), tous, {{93, "        "}, {101, "10031997"}}, {123}},
+                {LIGNE(C7, fVerifDateAbatPostEntr, 124), tous, {{101, "09012024"}}, {124}},
+                {LIGNE(C8, presence_C8, 68), tous, {{109, "12-45678"}}, {68}},
+                {LIGNE(C8, presence_C8, 68),
                  tous,
                  {{109, " 2345678"}},
                  {68, 128},
                  "a number that begins with a blank has no first letter or digit"},
-                {16, tous, {{109, "FR      "}, {126, "OFFICEFR    "}}, {128}},
-                {17, tous, {{117, "0450.50"}}, {125}},
-                {18, tous, {{117, "1000,01"}}, {126}},
-                {19, tous, {{124, "DE"}}, {127}},
-                {20, tous, {{126, "            "}}, {127, 68}, "a blank identification has no form"},
-                {21, tous, {{126, "99123456    "}}, {68}},
+                {LIGNE(C8, fVerif_NUM_TUE, 128), tous, {{109, "FR      "}, {126, "OFFICEFR    "}}, {128}},
+                {LIGNE(C9, fVerif_chaine_POIDS, 125), tous, {{117, "0450.50"}}, {125}},
+                {LIGNE(C9, fVerif_POIDS, 126), tous, {{117, "1000,01"}}, {126}},
+                {LIGNE(C10, fVerif_CODEPE_ABATNOT, 127), tous, {{124, "DE"}}, {127}},
+                {LIGNE(C11, presence_C11, 127),
+                 tous,
+                 {{126, "            "}},
+                 {127, 68},
+                 "a blank identification has no form"},
+                {LIGNE(C11, fVerif_NUMID_ABATNOT_CONF, 68), tous, {{126, "99123456    "}}, {68}},
             },
         .sansEchec =
             {
-                {22, tous, "the coherence of the notifier is not enforced"},
-                {23, tous, "the reference table of notifiers is not enforced"},
-                {24, tous, "the indicator is not enforced"},
+                {LIGNE(C11, fVerif_NUMID_ABATNOT_COHER, 129), tous,
+                 "the coherence of the notifier is not enforced"},
+                {LIGNE(C11, fVerif_NUMID_ABATNOT_TABREF, 127), tous,
+                 "the reference table of notifiers is not enforced"},
+                {LIGNE(C12, fVerif_INDIC_ABAT, 139), tous, "the indicator is not enforced"},
             },
         .emetteur = OFFICE,
     });

@@ -6,11 +6,12 @@
 #include <string>
 #include <vector>
 
-#include "messages/messages.h"
 #include "rules/entete.h"
 #include "support/champ.h"
 #include "support/lignes.h"
 #include "support/passage.h"
+#include "vocabulaire/regle.h"
+#include "vocabulaire/store.h"
 
 using namespace quilvane;
 using namespace essai;

@@ -1,7 +1,13 @@
 #include <gtest/gtest.h>
 
 #include "messages/cas.h"
-#include "messages/messages.h"
+#include "vocabulaire/regle.h"
+#include "vocabulaire/store.h"
+
+namespace quilvane {
+fVerif asso_fC2_1, asso_fC2_2, asso_fC5, asso_fC6_1, asso_fC6_1_INV, asso_fC6_2, asso_fC6_2_INV, asso_fC6_3,
+    asso_fC6_4, asso_fC6_5, asso_fC6_6, asso_fC8_1, asso_fC8_2, asso_fC8_3;
+}  // namespace quilvane
 
 using namespace essai;
 using namespace quilvane;
@@ -43,19 +49,19 @@ const std::vector<std::string> TYPES = {"SIREN", "SIRET", "AGRIN", "AGRIT", "AGR
 /** A shape check with its verdicts on numbers of its own type; it accepts any
  *  number of another type. */
 void prouverForme(const char* nom, fVerif* verif, const std::string& type, const std::vector<verdict>& cas,
-                  const void* liste = nullptr, int lenListe = 0) {
+                  const liste& sverif = sansListe) {
     SCOPED_TRACE(nom);
     placer("?", type);
-    prouverChamps(verif, "unread", cas, liste, lenListe);
+    prouverChamps(verif, "unread", cas, sverif);
     for (const std::string& autre : TYPES) {
         placer("?", autre);
-        EXPECT_EQ(accepte(verif, "", "?", liste, lenListe), autre != type) << autre;
+        EXPECT_EQ(accepte(verif, "", "?", sverif), autre != type) << autre;
     }
     for (const std::string& autre :
          {std::string("     "), std::string(), type.substr(0, 2), std::string("siren"),
           type.substr(0, 2) + "???", type.substr(0, type == "CEM  " ? 2 : 4) + "?"}) {
         placer("?", autre);
-        EXPECT_TRUE(accepte(verif, "", "?", liste, lenListe)) << "'" << autre << "'";
+        EXPECT_TRUE(accepte(verif, "", "?", sverif)) << "'" << autre << "'";
     }
 }
 
@@ -90,39 +96,39 @@ TEST(Asso, TouteLignePasseEtEchoue) {
         // clang-format off
         .cas = {
             // holding: only kind E looks at the form of its number
-            {0, "CRE INV MOD ECQ", {{63, "BE"}}, {30}},
-            {1, "CRE INV MOD ECQ", {{65, SANS_NUMERO}, identifiant("DSIREN", "732829320")}, {30}},
-            {2, "CRE INV MOD ECQ", {{65, "35123456    "}}, {50}},
-            {3, "CRE INV MOD ECQ", {{65, "7812345     "}}, {68}},
+            {LIGNE(C1, fVerifValAut, 30), "CRE INV MOD ECQ", {{63, "BE"}}, {30}},
+            {LIGNE(C2, fVerifDiffNull, 30), "CRE INV MOD ECQ", {{65, SANS_NUMERO}, identifiant("DSIREN", "732829320")}, {30}},
+            {LIGNE(C2, asso_fC2_1, 50), "CRE INV MOD ECQ", {{65, "35123456    "}}, {50}},
+            {LIGNE(C2, asso_fC2_2, 68), "CRE INV MOD ECQ", {{65, "7812345     "}}, {68}},
             // kind and type
-            {5, "CRE MOD ECQ", {{79, "X"}}, {171, 183}, "no type of number goes with another kind"},
-            {5, "INV", {{79, "X"}}, {171}},
-            {6, "CRE INV MOD ECQ", {{80, "CEM12"}, {85, n20("ABC1234")}}, {172}},
-            {6, "INV", {{80, "XXXXX"}}, {172}},
-            {7, "CRE MOD ECQ", {{79, "D"}}, {183}},
+            {LIGNE(C4, fVerifValAut, 171), "CRE MOD ECQ", {{79, "X"}}, {171, 183}, "no type of number goes with another kind"},
+            {LIGNE(C4, fVerifValAut, 171), "INV", {{79, "X"}}, {171}},
+            {LIGNE(C5, fVerifValAut, 172), "CRE INV MOD ECQ", {{80, "CEM12"}, {85, n20("ABC1234")}}, {172}},
+            {LIGNE(C5, fVerifValAut, 172), "INV", {{80, "XXXXX"}}, {172}},
+            {LIGNE(C5, asso_fC5, 183), "CRE MOD ECQ", {{79, "D"}}, {183}},
             // number
-            {8, "CRE INV MOD ECQ", {{85, n20("")}}, {173, 41}, AUCUNE_FORME},
-            {8, "CRE INV MOD ECQ", {identifiant("DSIREN", "")}, {173, 136}, AUCUNE_FORME},
-            {8, "CRE INV MOD ECQ", {identifiant("DAGRIN", "")}, {173, 181}, AUCUNE_FORME},
-            {8, "CRE INV MOD ECQ", {identifiant("EAGRIT", "")}, {173, 181}, AUCUNE_FORME},
-            {8, "CRE INV MOD ECQ", {identifiant("EAGRSA", "")}, {173, 184}, AUCUNE_FORME},
-            {8, "CRE INV MOD ECQ", {identifiant("ECEM  ", "")}, {173, 181}, AUCUNE_FORME},
-            {8, "CRE MOD ECQ", {{80, "XXXXX"}, {85, n20("")}}, {172, 183, 173}, "no type, no form"},
-            {8, "INV", {{80, "XXXXX"}, {85, n20("")}}, {172, 173}, "no type, no form"},
-            {9, "CRE MOD ECQ", {identifiant("DSIREN", "732829321")}, {136}},
-            {10, "INV", {identifiant("DSIREN", "73282932")}, {136}},
-            {11, "CRE MOD ECQ", {{85, n20("73282932000075")}}, {41}},
-            {12, "INV", {{85, n20("7328293200007")}}, {41}},
-            {13, "CRE INV MOD ECQ", {identifiant("DAGRIN", "112345678")}, {181}},
-            {14, "CRE INV MOD ECQ", {identifiant("EAGRIT", "A1234567890")}, {181}},
-            {15, "CRE INV MOD ECQ", {identifiant("EAGRSA", "2012345")}, {184}},
-            {16, "CRE INV MOD ECQ", {identifiant("ECEM  ", "ABC123")}, {181}},
+            {LIGNE(C6, fVerifDiffNull, 173), "CRE INV MOD ECQ", {{85, n20("")}}, {173, 41}, AUCUNE_FORME},
+            {LIGNE(C6, fVerifDiffNull, 173), "CRE INV MOD ECQ", {identifiant("DSIREN", "")}, {173, 136}, AUCUNE_FORME},
+            {LIGNE(C6, fVerifDiffNull, 173), "CRE INV MOD ECQ", {identifiant("DAGRIN", "")}, {173, 181}, AUCUNE_FORME},
+            {LIGNE(C6, fVerifDiffNull, 173), "CRE INV MOD ECQ", {identifiant("EAGRIT", "")}, {173, 181}, AUCUNE_FORME},
+            {LIGNE(C6, fVerifDiffNull, 173), "CRE INV MOD ECQ", {identifiant("EAGRSA", "")}, {173, 184}, AUCUNE_FORME},
+            {LIGNE(C6, fVerifDiffNull, 173), "CRE INV MOD ECQ", {identifiant("ECEM  ", "")}, {173, 181}, AUCUNE_FORME},
+            {LIGNE(C6, fVerifDiffNull, 173), "CRE MOD ECQ", {{80, "XXXXX"}, {85, n20("")}}, {172, 183, 173}, "no type, no form"},
+            {LIGNE(C6, fVerifDiffNull, 173), "INV", {{80, "XXXXX"}, {85, n20("")}}, {172, 173}, "no type, no form"},
+            {LIGNE(C6, asso_fC6_1, 136), "CRE MOD ECQ", {identifiant("DSIREN", "732829321")}, {136}},
+            {LIGNE(C6, asso_fC6_1_INV, 136), "INV", {identifiant("DSIREN", "73282932")}, {136}},
+            {LIGNE(C6, asso_fC6_2, 41), "CRE MOD ECQ", {{85, n20("73282932000075")}}, {41}},
+            {LIGNE(C6, asso_fC6_2_INV, 41), "INV", {{85, n20("7328293200007")}}, {41}},
+            {LIGNE(C6, asso_fC6_3, 181), "CRE INV MOD ECQ", {identifiant("DAGRIN", "112345678")}, {181}},
+            {LIGNE(C6, asso_fC6_4, 181), "CRE INV MOD ECQ", {identifiant("EAGRIT", "A1234567890")}, {181}},
+            {LIGNE(C6, asso_fC6_5, 184), "CRE INV MOD ECQ", {identifiant("EAGRSA", "2012345")}, {184}},
+            {LIGNE(C6, asso_fC6_6, 181), "CRE INV MOD ECQ", {identifiant("ECEM  ", "ABC123")}, {181}},
             // dates
-            {17, "CRE MOD ECQ", {{105, "30022023"}}, {174}},
-            {18, "CRE MOD ECQ", {{105, "16032024"}, {113, SANS_DATE}}, {52}},
-            {19, "CRE MOD ECQ", {{113, "31022024"}}, {175}},
-            {20, "CRE MOD ECQ", {{113, "31012024"}}, {149}},
-            {21, "CRE MOD ECQ", {{113, "16032024"}}, {52}},
+            {LIGNE(C7, fDATEC, 174), "CRE MOD ECQ", {{105, "30022023"}}, {174}},
+            {LIGNE(C7, fCoherenDC, 52), "CRE MOD ECQ", {{105, "16032024"}, {113, SANS_DATE}}, {52}},
+            {LIGNE(C8, asso_fC8_1, 175), "CRE MOD ECQ", {{113, "31022024"}}, {175}},
+            {LIGNE(C8, asso_fC8_2, 149), "CRE MOD ECQ", {{113, "31012024"}}, {149}},
+            {LIGNE(C8, asso_fC8_3, 52), "CRE MOD ECQ", {{113, "16032024"}}, {52}},
         },
         // clang-format on
     });
@@ -359,16 +365,16 @@ TEST(Asso, AgrementSanitaire) {
                      {"7", false},
                      {"", false},
                  },
-                 TD, LenTD);
+                 TD);
     // Corsica needs no list; every other department does.
     placer("E", "AGRSA");
-    EXPECT_TRUE(accepte(asso_fC6_5, "", n20("2A12345"), TD, 0));
-    EXPECT_TRUE(accepte(asso_fC6_5, "", n20("2B12345"), TD, 0));
-    EXPECT_FALSE(accepte(asso_fC6_5, "", n20("7812345"), TD, 0));
-    EXPECT_FALSE(accepte(asso_fC6_5, "", n20("9711234"), TD, 0));
-    const tValAutorise exclus[] = {"20", "98"};
-    EXPECT_FALSE(accepte(asso_fC6_5, "", n20("2012345"), exclus, 2));
-    EXPECT_FALSE(accepte(asso_fC6_5, "", n20("9812345"), exclus, 2));
+    EXPECT_TRUE(accepte(asso_fC6_5, "", n20("2A12345"), sansListe));
+    EXPECT_TRUE(accepte(asso_fC6_5, "", n20("2B12345"), sansListe));
+    EXPECT_FALSE(accepte(asso_fC6_5, "", n20("7812345"), sansListe));
+    EXPECT_FALSE(accepte(asso_fC6_5, "", n20("9711234"), sansListe));
+    const liste exclus = {{"20", "98"}};
+    EXPECT_FALSE(accepte(asso_fC6_5, "", n20("2012345"), exclus));
+    EXPECT_FALSE(accepte(asso_fC6_5, "", n20("9812345"), exclus));
 }
 
 TEST(Asso, Cem) {

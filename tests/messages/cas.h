@@ -12,6 +12,14 @@
 #include <string>
 #include <vector>
 
+#include "checks/abattage.h"
+#include "checks/coherence.h"
+#include "checks/conformite.h"
+#include "checks/dates.h"
+#include "checks/identifiants.h"
+#include "checks/listes.h"
+#include "checks/reference.h"
+#include "checks/valautorise.h"
 #include "messages/aiguillage.h"
 #include "support/champ.h"
 #include "support/lignes.h"
@@ -43,9 +51,10 @@ struct verdict {
 };
 
 inline void prouverChamps(quilvane::fVerif* verif, const std::string& dependance,
-                          const std::vector<verdict>& cas, const void* liste = nullptr, int lenListe = 0) {
+                          const std::vector<verdict>& cas,
+                          const quilvane::liste& sverif = quilvane::sansListe) {
     for (const verdict& v : cas)
-        EXPECT_EQ(accepte(verif, dependance, v.champ, liste, lenListe), v.attendu) << "[" << v.champ << "]";
+        EXPECT_EQ(accepte(verif, dependance, v.champ, sverif), v.attendu) << "[" << v.champ << "]";
 }
 
 /** The record that checks on columns look at. */

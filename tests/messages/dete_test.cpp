@@ -1,6 +1,10 @@
-#include "checks/utils.h"
+#include "checks/valautorise.h"
 #include "messages/cas.h"
-#include "messages/messages.h"
+#include "vocabulaire/store.h"
+
+namespace quilvane {
+fVerif fCoherenCC_dete_dem;
+}  // namespace quilvane
 
 using namespace essai;
 using namespace quilvane;
@@ -34,21 +38,25 @@ TEST(Dete, TouteLignePasseEtEchoue) {
         .modele = modele,
         .cas =
             {
-                {0, "CRE DEM INV MOD", {{63, "BE"}}, {30}},
-                {1, "CRE DEM INV MOD", {{65, BLANCS12}}, {30, 50}, "a blank number has no department"},
-                {2, "CRE INV", {{65, "077         "}}, {50}},
-                {3, "MOD", {{65, "020         "}}, {50}},
-                {4, "DEM", {{65, "020         "}}, {50}},
-                {6, "CRE", {{79, "XXXX"}}, {39}},
-                {7, "MOD", {{79, "XXXX"}}, {39}},
-                {8, "CRE MOD", {{83, BLANCS30}}, {39}},
-                {9, "CRE MOD", {{113, BLANCS30}}, {74, 74}, UNE_ADRESSE},
-                {10, "CRE MOD", {{113, BLANCS30}}, {74, 74}, UNE_ADRESSE},
-                {11, "CRE MOD", {{173, "     "}}, {40}},
-                {12, "CRE MOD", {{178, BLANCS30}}, {79}},
-                {14, "CRE MOD", {{222, "ZZ"}}, {80}},
+                {LIGNE(C1, fVerifValAut, 30), "CRE DEM INV MOD", {{63, "BE"}}, {30}},
+                {LIGNE(C2, fVerifDiffNull, 30),
+                 "CRE DEM INV MOD",
+                 {{65, BLANCS12}},
+                 {30, 50},
+                 "a blank number has no department"},
+                {LIGNE(C2, fCoherenCCD, 50), "CRE INV", {{65, "077         "}}, {50}},
+                {LIGNE(C2, fConform3, 50), "MOD", {{65, "020         "}}, {50}},
+                {LIGNE(C2, fCoherenCC_dete_dem, 50), "DEM", {{65, "020         "}}, {50}},
+                {LIGNE(C4, fVerifValAut, 39), "CRE", {{79, "XXXX"}}, {39}},
+                {LIGNE(C4, fVerifValAut, 39), "MOD", {{79, "XXXX"}}, {39}},
+                {LIGNE(C5, fVerifDiffNull, 39), "CRE MOD", {{83, BLANCS30}}, {39}},
+                {LIGNE(C6, fVDIFFVD, 74), "CRE MOD", {{113, BLANCS30}}, {74, 74}, UNE_ADRESSE},
+                {LIGNE(C7, fVDIFFVD, 74), "CRE MOD", {{113, BLANCS30}}, {74, 74}, UNE_ADRESSE},
+                {LIGNE(C8, fVerifDiffNull, 40), "CRE MOD", {{173, "     "}}, {40}},
+                {LIGNE(C9, fVerifDiffNull, 79), "CRE MOD", {{178, BLANCS30}}, {79}},
+                {LIGNE(C11, fVerifValAut, 80), "CRE MOD", {{222, "ZZ"}}, {80}},
                 // A kind other than "D" is a holding and has a holding's number.
-                {15, "DEM", {{65, "78123456    "}, {224, "X"}}, {130}},
+                {LIGNE(C12, fVerifValAut, 130), "DEM", {{65, "78123456    "}, {224, "X"}}, {130}},
             },
     });
 }
@@ -119,12 +127,12 @@ TEST(Dete, DetenteurDUneDemande) {
          }) {
         remplir(valCorpsVSE[C12], c.temoin);
         for (const char* departement : {"078IPG  ", "035IPG  ", ""})  // the body plays no part
-            EXPECT_EQ(accepte(fCoherenCC_dete_dem, departement, c.numero, TD, LenTD), c.attendu)
+            EXPECT_EQ(accepte(fCoherenCC_dete_dem, departement, c.numero, TD), c.attendu)
                 << "'" << c.temoin << "' '" << c.numero << "'";
     }
     // The list of the row serves holdings only.
     remplir(valCorpsVSE[C12], "D");
-    EXPECT_TRUE(accepte(fCoherenCC_dete_dem, "078IPG  ", "078         ", nullptr, 0));
+    EXPECT_TRUE(accepte(fCoherenCC_dete_dem, "078IPG  ", "078         ", sansListe));
     remplir(valCorpsVSE[C12], "E");
-    EXPECT_FALSE(accepte(fCoherenCC_dete_dem, "078IPG  ", "78123456    ", TD, 0));
+    EXPECT_FALSE(accepte(fCoherenCC_dete_dem, "078IPG  ", "78123456    ", sansListe));
 }

@@ -20,14 +20,18 @@ TEST(Deti, TouteLignePasseEtEchoue) {
         .modele = modele,
         .cas =
             {
-                {0, "CRE INV MOD", {{63, "BE"}}, {30}},
-                {1, "CRE INV MOD", {{65, BLANCS12}}, {30, 50}, "a blank number has no department"},
-                {2, "CRE INV MOD", {{65, "975123456789"}}, {50}},
-                {4, "CRE INV MOD", {{79, "2"}}, {81}},
-                {5, "CRE MOD", {{80, "00022024"}}, {42}},
-                {6, "CRE MOD", {{80, "16032024"}}, {52}},
-                {7, "INV MOD", {{88, "00022024"}}, {29}},
-                {8, "INV MOD", {{88, "16032024"}}, {52}},
+                {LIGNE(C1, fVerifValAut, 30), "CRE INV MOD", {{63, "BE"}}, {30}},
+                {LIGNE(C2, fVerifDiffNull, 30),
+                 "CRE INV MOD",
+                 {{65, BLANCS12}},
+                 {30, 50},
+                 "a blank number has no department"},
+                {LIGNE(C2, fConform3, 50), "CRE INV MOD", {{65, "975123456789"}}, {50}},
+                {LIGNE(C4, fVerifValAut, 81), "CRE INV MOD", {{79, "2"}}, {81}},
+                {LIGNE(C5, fDATEC, 42), "CRE MOD", {{80, "00022024"}}, {42}},
+                {LIGNE(C5, fCoherenDC, 52), "CRE MOD", {{80, "16032024"}}, {52}},
+                {LIGNE(C6, fDATEI, 29), "INV MOD", {{88, "00022024"}}, {29}},
+                {LIGNE(C6, fCoherenDC, 52), "INV MOD", {{88, "16032024"}}, {52}},
             },
     });
 }

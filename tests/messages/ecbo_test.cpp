@@ -1,7 +1,12 @@
 #include <gtest/gtest.h>
 
 #include "messages/cas.h"
-#include "messages/messages.h"
+#include "vocabulaire/regle.h"
+#include "vocabulaire/store.h"
+
+namespace quilvane {
+fVerif ecbo_C12, ecbo_C13, ecbo_C15;
+}  // namespace quilvane
 
 using namespace essai;
 using namespace quilvane;
@@ -48,32 +53,44 @@ TEST(Ecbo, TouteLignePasseEtEchoue) {
         .modele = bovin,
         .cas =
             {
-                {0, tous, {{63, "QQ"}}, {1}},
-                {1, tous, {{65, BLANCS_12}}, {1, 67}, "a blank number is no French number"},
-                {1, tous, {{63, "US"}, {65, BLANCS_12}}, {1, 118}, "nor one of French form"},
-                {1, tous, {{63, "DE"}, {65, BLANCS_12}}, {1, 1}, "nor a foreign one"},
-                {2, tous, {{65, "9912345678  "}}, {67}},
-                {3, tous, {{63, "US"}, {65, "9912345678  "}}, {118}},
-                {4, tous, {{63, "DE"}, {65, "DE12345678  "}}, {1}},
-                {6, "CRE", {{79, "00"}}, {11}},
-                {7, "CRE", {{81, "2"}}, {12}},
-                {8, "CRE", {{82, "2"}}, {13}},
-                {9, "CRE", {{83, "QQ"}}, {17}},
-                {10, "CRE", {{85, BLANCS_12}}, {17}},
-                {11, "CRE", {{83, "DE"}, {85, "DE12345678  "}}, {17}},
-                {14, "CRE", {{111, "00"}}, {20}},
-                {15, "CRE", {{113, "QQ"}}, {14}},
-                {16, "CRE", {{115, "DE12345678  "}}, {14}},
-                {18, "CRE", {{137, "00"}}, {16}},
+                {LIGNE(C1, fVerifValAut, 1), tous, {{63, "QQ"}}, {1}},
+                {LIGNE(C2, fVerifDiffNull, 1),
+                 tous,
+                 {{65, BLANCS_12}},
+                 {1, 67},
+                 "a blank number is no French number"},
+                {LIGNE(C2, fVerifDiffNull, 1),
+                 tous,
+                 {{63, "US"}, {65, BLANCS_12}},
+                 {1, 118},
+                 "nor one of French form"},
+                {LIGNE(C2, fVerifDiffNull, 1),
+                 tous,
+                 {{63, "DE"}, {65, BLANCS_12}},
+                 {1, 1},
+                 "nor a foreign one"},
+                {LIGNE(C2, fConform10FR, 67), tous, {{65, "9912345678  "}}, {67}},
+                {LIGNE(C2, fConform10FRnonECHAnon, 118), tous, {{63, "US"}, {65, "9912345678  "}}, {118}},
+                {LIGNE(C2, fConform10FRnonECHAoui, 1), tous, {{63, "DE"}, {65, "DE12345678  "}}, {1}},
+                {LIGNE(C4, fVerifValAut, 11), "CRE", {{79, "00"}}, {11}},
+                {LIGNE(C5, fVerifValAut, 12), "CRE", {{81, "2"}}, {12}},
+                {LIGNE(C6, fVerifValAut, 13), "CRE", {{82, "2"}}, {13}},
+                {LIGNE(C7, fVerifValAut, 17), "CRE", {{83, "QQ"}}, {17}},
+                {LIGNE(C8, fVerifDiffNull, 17), "CRE", {{85, BLANCS_12}}, {17}},
+                {LIGNE(C8, fConform10FRnon, 17), "CRE", {{83, "DE"}, {85, "DE12345678  "}}, {17}},
+                {LIGNE(C11, fVerifValAut, 20), "CRE", {{111, "00"}}, {20}},
+                {LIGNE(C12, ecbo_C12, 14), "CRE", {{113, "QQ"}}, {14}},
+                {LIGNE(C13, ecbo_C13, 14), "CRE", {{115, "DE12345678  "}}, {14}},
+                {LIGNE(C15, ecbo_C15, 16), "CRE", {{137, "00"}}, {16}},
             },
     });
 }
 
 TEST(Ecbo, SecondAnimalAbsent) {
     remplirSecond(BLANCS_2, BLANCS_12, BLANCS_2);
-    EXPECT_TRUE(accepte(ecbo_C12, "", BLANCS_2, TP, LenTP));
-    EXPECT_TRUE(accepte(ecbo_C13, BLANCS_2, BLANCS_12, DouzeBlancs, LenDouzeBlancs));
-    EXPECT_TRUE(accepte(ecbo_C15, "", BLANCS_2, TRG, LenTRG));
+    EXPECT_TRUE(accepte(ecbo_C12, "", BLANCS_2, TP));
+    EXPECT_TRUE(accepte(ecbo_C13, BLANCS_2, BLANCS_12, DouzeBlancs));
+    EXPECT_TRUE(accepte(ecbo_C15, "", BLANCS_2, TRG));
 
     const struct {
         const char* nom;
@@ -101,20 +118,18 @@ TEST(Ecbo, SecondAnimalAbsent) {
     };
     for (const auto& c : cas) {
         remplirSecond(c.c12, c.c13, c.c15);
-        EXPECT_EQ(accepte(ecbo_C12, "", c.c12, TP, LenTP), c.v12) << c.nom;
-        EXPECT_EQ(accepte(ecbo_C13, c.c12, c.c13, DouzeBlancs, LenDouzeBlancs), c.v13) << c.nom;
-        EXPECT_EQ(accepte(ecbo_C15, "", c.c15, TRG, LenTRG), c.v15) << c.nom;
+        EXPECT_EQ(accepte(ecbo_C12, "", c.c12, TP), c.v12) << c.nom;
+        EXPECT_EQ(accepte(ecbo_C13, c.c12, c.c13, DouzeBlancs), c.v13) << c.nom;
+        EXPECT_EQ(accepte(ecbo_C15, "", c.c15, TRG), c.v15) << c.nom;
     }
 }
 
 TEST(Ecbo, SecondAnimalParPays) {
     remplirSecond("DE", "1234567890  ", "16");
     prouverChamps(ecbo_C12, "",
-                  {{"FR", true}, {"US", true}, {"EL", true}, {"GR", false}, {"  ", false}, {"", false}}, TP,
-                  LenTP);
+                  {{"FR", true}, {"US", true}, {"EL", true}, {"GR", false}, {"  ", false}, {"", false}}, TP);
     prouverChamps(ecbo_C15, "",
-                  {{"10", true}, {"16", true}, {"99", true}, {"00", false}, {"  ", false}, {"", false}}, TRG,
-                  LenTRG);
+                  {{"10", true}, {"16", true}, {"99", true}, {"00", false}, {"  ", false}, {"", false}}, TRG);
     // A French number is not looked at, but it must be there.
     prouverChamps(ecbo_C13, "FR",
                   {{"FR-1        ", true}, {"9912345678  ", true}, {"", true}, {BLANCS_12, false}});

@@ -1,6 +1,8 @@
-#include "checks/utils.h"
 #include "messages/cas.h"
-#include "messages/messages.h"
+
+namespace quilvane {
+fVerif eget_fC5C6;
+}  // namespace quilvane
 
 using namespace essai;
 using namespace quilvane;
@@ -32,19 +34,27 @@ TEST(Eget, TouteLignePasseEtEchoue) {
         .modele = modele,
         .cas =
             {
-                {0, "CRE INV MOD", {{63, "BE"}}, {139}},
-                {1,
+                {LIGNE(C1, fVerifValAut, 139), "CRE INV MOD", {{63, "BE"}}, {139}},
+                {LIGNE(C2, fVerifDiffNull, 139),
                  "CRE INV MOD",
                  {{65, BLANCS12}},
                  {139, 140, 50},
                  "a blank code has neither form nor department"},
-                {2, "CRE INV MOD", {{65, "78a12       "}}, {140}},
-                {3, "CRE INV MOD", {{65, "77A12       "}}, {50}},
-                {5, "CRE INV MOD", {{79, "X"}}, {140, 50, 131}, SANS_CODE},
-                {6, "CRE MOD", {{80, BLANCS30}, {110, BLANCS30}}, {141, 141}, UN_TEXTE},
-                {7, "CRE MOD", {{80, BLANCS30}, {110, BLANCS30}}, {141, 141}, UN_TEXTE},
-                {8, "CRE MOD", {{140, "     "}}, {142}},
-                {9, "CRE MOD", {{145, BLANCS30}}, {143}},
+                {LIGNE(C2, fConformEget, 140), "CRE INV MOD", {{65, "78a12       "}}, {140}},
+                {LIGNE(C2, fCoherenCCEget, 50), "CRE INV MOD", {{65, "77A12       "}}, {50}},
+                {LIGNE(C4, fVerifValAut, 131), "CRE INV MOD", {{79, "X"}}, {140, 50, 131}, SANS_CODE},
+                {LIGNE(C5, eget_fC5C6, 141),
+                 "CRE MOD",
+                 {{80, BLANCS30}, {110, BLANCS30}},
+                 {141, 141},
+                 UN_TEXTE},
+                {LIGNE(C6, eget_fC5C6, 141),
+                 "CRE MOD",
+                 {{80, BLANCS30}, {110, BLANCS30}},
+                 {141, 141},
+                 UN_TEXTE},
+                {LIGNE(C7, fVerifDiffNull, 142), "CRE MOD", {{140, "     "}}, {142}},
+                {LIGNE(C8, fVerifDiffNull, 143), "CRE MOD", {{145, BLANCS30}}, {143}},
             },
     });
 }

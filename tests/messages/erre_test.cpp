@@ -1,8 +1,15 @@
 #include <gtest/gtest.h>
 
 #include "messages/cas.h"
-#include "messages/messages.h"
 #include "support/banc.h"
+#include "vocabulaire/regle.h"
+#include "vocabulaire/store.h"
+
+namespace quilvane {
+fVerif vErre_C1, vErre_C10, vErre_C29, vErre_C30, vErre_C31, vErre_C32_1, vErre_C32_2, vErre_C32_3,
+    vErre_C36_1, vErre_C37_1, vErre_C37_2, vErre_C4, vErre_C5, vErre_C6, vErre_C7, vErre_C8, vErre_C8_conf,
+    vErre_C9;
+}  // namespace quilvane
 
 using namespace essai;
 using namespace quilvane;
@@ -50,34 +57,38 @@ TEST(Erre, TouteLignePasseEtEchoue) {
         .modele = retour,
         .cas =
             {
-                {0, "ECQ", {{63, "XXXX"}}, {85, 190}, "an unknown type is not ABAT either"},
-                {1, "ECQ", {{63, "NAIS"}}, {190}},
-                {2, "ECQ", {{67, "XXX"}}, {84}},
-                {3, "ECQ", {{70, "ZZ"}}, {1}},
-                {4, "ECQ", {{72, "            "}}, {185}},
-                {5, "ECQ", {{84, "ZZ"}}, {1}},
-                {6, "ECQ", {{86, "FR12345678  "}}, {186}},
-                {7, "ECQ", {{98, "BE"}}, {21}},
-                {8, "ECQ", {{100, "            "}}, {21}},
-                {9, "ECQ", {{100, "99123456    "}}, {68}},
-                {10, "ECQ", {{112, "AB-2"}}, {187}},
-                {11, "ECQ", {{116, " "}}, {188}},
-                {12, "ECQ", {{162, "BE"}}, {189}},
-                {13, "ECQ", {{164, "99123456    "}}, {189}},
-                {14, "ECQ", {{176, "ZZ"}}, {1}},
-                {15, "ECQ", {{178, "9912345678  "}}, {67}},
-                {16, "ECQ", {{176, "US"}, {178, "9912345678  "}}, {118}},
-                {17, "ECQ", {{176, "DE"}, {178, "DE12345678  "}}, {1}},
-                {18, "ECQ", {{190, "31042020"}}, {5}},
-                {19, "ECQ", {{190, "16032024"}}, {52}},
-                {20, "ECQ", {{198, "31022024"}}, {22}},
-                {21, "ECQ", {{198, "16032024"}}, {52}},
-                {22, "ECQ", {{206, "31022024"}}, {22}},
-                {23, "ECQ", {{206, "16032024"}}, {52}},
-                {24, "ECQ", {{214, "31022024"}}, {122}},
-                {25, "ECQ", {{214, "16032024"}}, {52}},
-                {26, "ECQ", {{222, "089ARS  "}}, {87}},
-                {27, "ECQ", {{222, "004IPG  "}}, {135}},
+                {LIGNE(C1, fVerifValAut, 85),
+                 "ECQ",
+                 {{63, "XXXX"}},
+                 {85, 190},
+                 "an unknown type is not ABAT either"},
+                {LIGNE(C1, vErre_C1, 190), "ECQ", {{63, "NAIS"}}, {190}},
+                {LIGNE(C2, fVerifValAut, 84), "ECQ", {{67, "XXX"}}, {84}},
+                {LIGNE(C3, fVerifValAut, 1), "ECQ", {{70, "ZZ"}}, {1}},
+                {LIGNE(C4, vErre_C4, 185), "ECQ", {{72, "            "}}, {185}},
+                {LIGNE(C5, vErre_C5, 1), "ECQ", {{84, "ZZ"}}, {1}},
+                {LIGNE(C6, vErre_C6, 186), "ECQ", {{86, "FR12345678  "}}, {186}},
+                {LIGNE(C7, vErre_C7, 21), "ECQ", {{98, "BE"}}, {21}},
+                {LIGNE(C8, vErre_C8, 21), "ECQ", {{100, "            "}}, {21}},
+                {LIGNE(C8, vErre_C8_conf, 68), "ECQ", {{100, "99123456    "}}, {68}},
+                {LIGNE(C9, vErre_C9, 187), "ECQ", {{112, "AB-2"}}, {187}},
+                {LIGNE(C10, vErre_C10, 188), "ECQ", {{116, " "}}, {188}},
+                {LIGNE(C29, vErre_C29, 189), "ECQ", {{162, "BE"}}, {189}},
+                {LIGNE(C30, vErre_C30, 189), "ECQ", {{164, "99123456    "}}, {189}},
+                {LIGNE(C31, vErre_C31, 1), "ECQ", {{176, "ZZ"}}, {1}},
+                {LIGNE(C32, vErre_C32_1, 67), "ECQ", {{178, "9912345678  "}}, {67}},
+                {LIGNE(C32, vErre_C32_2, 118), "ECQ", {{176, "US"}, {178, "9912345678  "}}, {118}},
+                {LIGNE(C32, vErre_C32_3, 1), "ECQ", {{176, "DE"}, {178, "DE12345678  "}}, {1}},
+                {LIGNE(C33, fDATEC_INC, 5), "ECQ", {{190, "31042020"}}, {5}},
+                {LIGNE(C33, fCoherenDC, 52), "ECQ", {{190, "16032024"}}, {52}},
+                {LIGNE(C34, fDATEC_INC, 22), "ECQ", {{198, "31022024"}}, {22}},
+                {LIGNE(C34, fCoherenDC, 52), "ECQ", {{198, "16032024"}}, {52}},
+                {LIGNE(C35, fDATEC_INC, 22), "ECQ", {{206, "31022024"}}, {22}},
+                {LIGNE(C35, fCoherenDC, 52), "ECQ", {{206, "16032024"}}, {52}},
+                {LIGNE(C36, vErre_C36_1, 122), "ECQ", {{214, "31022024"}}, {122}},
+                {LIGNE(C36, fCoherenDC, 52), "ECQ", {{214, "16032024"}}, {52}},
+                {LIGNE(C37, vErre_C37_1, 87), "ECQ", {{222, "089ARS  "}}, {87}},
+                {LIGNE(C37, vErre_C37_2, 135), "ECQ", {{222, "004IPG  "}}, {135}},
             },
     });
 }

@@ -1,6 +1,9 @@
-#include "checks/utils.h"
+#include "checks/valautorise.h"
 #include "messages/cas.h"
-#include "messages/messages.h"
+
+namespace quilvane {
+fVerif erti_fC5, erti_fC9C10;
+}  // namespace quilvane
 
 using namespace essai;
 using namespace quilvane;
@@ -27,35 +30,35 @@ TEST(Erti, TouteLignePasseEtEchoue) {
         .modele = modele,
         .cas =
             {
-                {0, "CRE INV MOD", {{63, "BE"}}, {139}},
-                {1,
+                {LIGNE(C1, fVerifValAut, 139), "CRE INV MOD", {{63, "BE"}}, {139}},
+                {LIGNE(C2, fVerifDiffNull, 139),
                  "CRE INV MOD",
                  {{65, BLANCS12}},
                  {139, 140, 50},
                  "a blank code has neither form nor department"},
-                {2, "CRE INV MOD", {{65, "78A1        "}}, {140}},
-                {3, "CRE INV MOD", {{65, "77A12       "}}, {50}},
-                {5,
+                {LIGNE(C2, fConformEget, 140), "CRE INV MOD", {{65, "78A1        "}}, {140}},
+                {LIGNE(C2, fCoherenCCEget, 50), "CRE INV MOD", {{65, "77A12       "}}, {50}},
+                {LIGNE(C4, fVerifValAut, 131),
                  "CRE INV MOD",
                  {{79, "X"}},
                  {140, 50, 131},
                  "the code's form and its department go by the kind of production"},
-                {6, "CRE INV MOD", {{80, "D"}}, {131}},
-                {7, "CRE", {{81, "31022024"}}, {144}},
-                {8, "CRE", {{81, "16032024"}}, {52}},
-                {9, "MOD", {{81, "01022024"}}, {192}},
-                {10, "CRE MOD", {{89, "31022024"}}, {145}},
-                {11, "CRE", {{89, "31012024"}}, {149}},
-                {11,
+                {LIGNE(C5, erti_fC5, 131), "CRE INV MOD", {{80, "D"}}, {131}},
+                {LIGNE(C6, fDATEC, 144), "CRE", {{81, "31022024"}}, {144}},
+                {LIGNE(C6, fCoherenDC, 52), "CRE", {{81, "16032024"}}, {52}},
+                {LIGNE(C6, fVerifValAut, 192), "MOD", {{81, "01022024"}}, {192}},
+                {LIGNE(C7, fDatRecCorr, 145), "CRE MOD", {{89, "31022024"}}, {145}},
+                {LIGNE(C7, fDatRecPost, 149), "CRE", {{89, "31012024"}}, {149}},
+                {LIGNE(C7, fDatRecPost, 149),
                  "MOD",
                  {{81, "01022024"}, {89, "31012024"}},
                  {192, 149},
                  "nothing comes before a blank opening date, which alone may stand on modification"},
-                {12, "CRE MOD", {{89, "16032024"}}, {52}},
-                {13, "INV MOD", {{97, "31022024"}}, {144}},
-                {14, "INV MOD", {{97, "16032024"}}, {52}},
-                {15, "CRE MOD", {{105, "OEUF"}}, {146}},
-                {16, "CRE MOD", {{109, "1   "}}, {147}},
+                {LIGNE(C7, fDatRecCohe, 52), "CRE MOD", {{89, "16032024"}}, {52}},
+                {LIGNE(C8, fDATEC, 144), "INV MOD", {{97, "31022024"}}, {144}},
+                {LIGNE(C8, fCoherenDC, 52), "INV MOD", {{97, "16032024"}}, {52}},
+                {LIGNE(C9, erti_fC9C10, 146), "CRE MOD", {{105, "OEUF"}}, {146}},
+                {LIGNE(C10, erti_fC9C10, 147), "CRE MOD", {{109, "1   "}}, {147}},
             },
     });
 }
@@ -91,20 +94,19 @@ TEST(Erti, ProductionSelonLeGenre) {
     for (const char c : std::string("ABCDEFGHIJKLMNOPQRSTUVWXYZ 1d")) {
         const std::string champ(1, c);
         const bool listee = std::string("DEFGHJKLM").find(c) != std::string::npos;
-        EXPECT_EQ(accepte(erti_fC5, "V", champ, PROD_EV, LenPROD_EV), listee) << champ;
+        EXPECT_EQ(accepte(erti_fC5, "V", champ, PROD_EV), listee) << champ;
         for (const char* genre : {"P", "v", " ", "", "V "})
-            EXPECT_EQ(accepte(erti_fC5, genre, champ, PROD_EV, LenPROD_EV), c == ' ')
-                << genre << " " << champ;
+            EXPECT_EQ(accepte(erti_fC5, genre, champ, PROD_EV), c == ' ') << genre << " " << champ;
     }
     // Exactly one blank.
-    EXPECT_FALSE(accepte(erti_fC5, "P", "", PROD_EV, LenPROD_EV));
-    EXPECT_FALSE(accepte(erti_fC5, "P", "  ", PROD_EV, LenPROD_EV));
-    EXPECT_FALSE(accepte(erti_fC5, "V", "", PROD_EV, LenPROD_EV));
-    EXPECT_FALSE(accepte(erti_fC5, "V", "DE", PROD_EV, LenPROD_EV));
-    EXPECT_FALSE(accepte(erti_fC5, "V", "M", PROD_EV, LenPROD_EV - 1));
+    EXPECT_FALSE(accepte(erti_fC5, "P", "", PROD_EV));
+    EXPECT_FALSE(accepte(erti_fC5, "P", "  ", PROD_EV));
+    EXPECT_FALSE(accepte(erti_fC5, "V", "", PROD_EV));
+    EXPECT_FALSE(accepte(erti_fC5, "V", "DE", PROD_EV));
+    EXPECT_FALSE(accepte(erti_fC5, "V", "M", liste{{"D", "E"}}));
     // A list test: the codes of the national bodies belong to every list.
-    EXPECT_TRUE(accepte(erti_fC5, "V", "NORMABEV", PROD_EV, LenPROD_EV));
-    EXPECT_FALSE(accepte(erti_fC5, "P", "NORMABEV", PROD_EV, LenPROD_EV));
+    EXPECT_TRUE(accepte(erti_fC5, "V", "NORMABEV", PROD_EV));
+    EXPECT_FALSE(accepte(erti_fC5, "P", "NORMABEV", PROD_EV));
 }
 
 TEST(Erti, FiliereEtElevage) {
@@ -126,9 +128,9 @@ TEST(Erti, FiliereEtElevage) {
              cas{"m", "OEUF", false, false},   cas{"M ", "    ", true, true},
              cas{"M", "NORMABEV", true, true}, cas{"D", "NORMABEV", false, false},
          }) {
-        EXPECT_EQ(accepte(erti_fC9C10, c.production, c.champ, FIL_V, LenFIL_V), c.filiere)
+        EXPECT_EQ(accepte(erti_fC9C10, c.production, c.champ, FIL_V), c.filiere)
             << "'" << c.production << "' '" << c.champ << "'";
-        EXPECT_EQ(accepte(erti_fC9C10, c.production, c.champ, ELV_V, LenELV_V), c.elevage)
+        EXPECT_EQ(accepte(erti_fC9C10, c.production, c.champ, ELV_V), c.elevage)
             << "'" << c.production << "' '" << c.champ << "'";
     }
 }

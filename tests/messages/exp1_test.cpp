@@ -1,7 +1,11 @@
 #include <gtest/gtest.h>
 
 #include "messages/cas.h"
-#include "messages/messages.h"
+#include "vocabulaire/regle.h"
+
+namespace quilvane {
+fVerif fexp1_C4;
+}  // namespace quilvane
 
 using namespace essai;
 using namespace quilvane;
@@ -39,25 +43,29 @@ TEST(Exp1, TouteLignePasseEtEchoue) {
         .modele = exploitation,
         .cas =
             {
-                {0, tous, {{63, "BE"}}, {31}},
-                {1, tous, {{65, BLANCS_12}}, {31, 68, 50}, "a blank number has neither form nor department"},
-                {2, tous, {{65, "7812345     "}}, {68}},
-                {3, tous, {{65, "77123456    "}}, {50}},
-                {5, "CRE", {{79, "ETS "}}, {32}},
-                {6, "MOD", {{79, "ABCD"}}, {32}},
-                {8,
+                {LIGNE(C1, fVerifValAut, 31), tous, {{63, "BE"}}, {31}},
+                {LIGNE(C2, fVerifDiffNull, 31),
+                 tous,
+                 {{65, BLANCS_12}},
+                 {31, 68, 50},
+                 "a blank number has neither form nor department"},
+                {LIGNE(C2, fConform8, 68), tous, {{65, "7812345     "}}, {68}},
+                {LIGNE(C2, fCoherenCC, 50), tous, {{65, "77123456    "}}, {50}},
+                {LIGNE(C4, fexp1_C4, 32), "CRE", {{79, "ETS "}}, {32}},
+                {LIGNE(C4, fexp1_C4, 32), "MOD", {{79, "ABCD"}}, {32}},
+                {LIGNE(C6, fCDIFF, 75),
                  sauvINV,
                  {{113, BLANCS_30 + BLANCS_30}},
                  {75, 75},
                  "each line fails only when both are blank"},
-                {9,
+                {LIGNE(C7, fCDIFF, 75),
                  sauvINV,
                  {{113, BLANCS_30 + BLANCS_30}},
                  {75, 75},
                  "each line fails only when both are blank"},
-                {10, sauvINV, {{173, "     "}}, {33}},
-                {11, sauvINV, {{178, BLANCS_30}}, {82}},
-                {13, sauvINV, {{222, "30"}}, {35}},
+                {LIGNE(C8, fVerifDiffNull, 33), sauvINV, {{173, "     "}}, {33}},
+                {LIGNE(C9, fVerifDiffNull, 82), sauvINV, {{178, BLANCS_30}}, {82}},
+                {LIGNE(C11, fVerifValAut, 35), sauvINV, {{222, "30"}}, {35}},
             },
     });
 }
@@ -67,15 +75,15 @@ TEST(Exp1, FormeJuridique) {
         {"GAEC", true},  {"M   ", true},  {"SCIC", true}, {"    ", true}, {"****", true},   {"ABCD", false},
         {"gaec", false}, {"GAE ", false}, {"***", false}, {"   ", false}, {"*****", false}, {"", false},
     };
-    prouverChamps(fexp1_C4, "", communs, TRSCRE, LenTRSCRE);
-    prouverChamps(fexp1_C4, "", communs, TRSMOD, LenTRSMOD);
+    prouverChamps(fexp1_C4, "", communs, TRSCRE);
+    prouverChamps(fexp1_C4, "", communs, TRSMOD);
     for (const char* ancienne : {"ETS ", "MLE ", "MR  ", "MRS ", "STE "}) {
-        EXPECT_FALSE(accepte(fexp1_C4, "", ancienne, TRSCRE, LenTRSCRE)) << ancienne;
-        EXPECT_TRUE(accepte(fexp1_C4, "", ancienne, TRSMOD, LenTRSMOD)) << ancienne;
+        EXPECT_FALSE(accepte(fexp1_C4, "", ancienne, TRSCRE)) << ancienne;
+        EXPECT_TRUE(accepte(fexp1_C4, "", ancienne, TRSMOD)) << ancienne;
     }
-    EXPECT_TRUE(accepte(fexp1_C4, "", "****", nullptr, 0));
-    EXPECT_TRUE(accepte(fexp1_C4, "", "    ", nullptr, 0));
-    EXPECT_FALSE(accepte(fexp1_C4, "", "GAEC", TRSCRE, 0));
+    EXPECT_TRUE(accepte(fexp1_C4, "", "****", sansListe));
+    EXPECT_TRUE(accepte(fexp1_C4, "", "    ", sansListe));
+    EXPECT_FALSE(accepte(fexp1_C4, "", "GAEC", sansListe));
 }
 
 TEST(Exp1, CasDEnregistrements) {

@@ -1,6 +1,9 @@
-#include "checks/utils.h"
+#include "messages/aiguillage.h"
 #include "messages/cas.h"
-#include "messages/messages.h"
+
+namespace quilvane {
+fVerif groc_cre_C10_1, groc_cre_C10_2, groc_cre_C12;
+}  // namespace quilvane
 
 using namespace essai;
 using namespace quilvane;
@@ -37,26 +40,37 @@ TEST(Groc, TouteLignePasseEtEchoue) {
         .cas =
             {
                 // The country of origin is left blank for a foreign number.
-                {0, "CRE DEM", {{63, "US"}, {109, "  "}}, {1}},
-                {1, "CRE DEM", {{65, BLANCS12}}, {1, 151}, "a blank number has no form"},
-                {2, "CRE DEM", {{65, "5300001234  "}}, {151}},
-                {3, "CRE DEM", {{63, "BE"}, {65, "BE1234      "}, {109, "  "}}, {1}},
-                {5, "CRE", {{79, "BE"}}, {27}},
-                {6, "CRE", {{81, BLANCS12}}, {27, 68, 50}, "a blank number has neither form nor department"},
-                {7, "CRE", {{81, "7812345     "}}, {68}},
-                {8, "CRE", {{81, "77123456    "}}, {50}},
-                {9, "CRE", {{93, "31022024"}}, {28}},
-                {10, "CRE", {{93, "16032024"}}, {52}},
-                {11, "CRE DEM", {{101, "AZE123X "}}, {153}},
-                {12, "CRE DEM", {{101, "OZE123  "}}, {154}},
-                {13, "CRE DEM", {{101, "ABE123  "}}, {155}},
-                {14, "CRE DEM", {{101, "AZX123  "}, {111, " "}}, {156}},
-                {15, "CRE DEM", {{101, "AZE12X  "}}, {157}},
-                {16, "CRE", {{109, "ZZ"}}, {152}},
-                {17, "CRE", {{111, "8"}}, {158}},
-                {18, "CRE", {{112, "31022024"}}, {102}},
-                {19, "CRE", {{112, "16032024"}}, {52}},
-                {23, "CRE", {{122, "240000"}}, {103}},
+                {LIGNE(C1, fVerifValAut, 1), "CRE DEM", {{63, "US"}, {109, "  "}}, {1}},
+                {LIGNE(C2, fVerifDiffNull, 1),
+                 "CRE DEM",
+                 {{65, BLANCS12}},
+                 {1, 151},
+                 "a blank number has no form"},
+                {LIGNE(C2, fConform_OC_FR, 151), "CRE DEM", {{65, "5300001234  "}}, {151}},
+                {LIGNE(C2, fConform_OC_UE, 1),
+                 "CRE DEM",
+                 {{63, "BE"}, {65, "BE1234      "}, {109, "  "}},
+                 {1}},
+                {LIGNE(C4, fVerifValAut, 27), "CRE", {{79, "BE"}}, {27}},
+                {LIGNE(C5, fVerifDiffNull, 27),
+                 "CRE",
+                 {{81, BLANCS12}},
+                 {27, 68, 50},
+                 "a blank number has neither form nor department"},
+                {LIGNE(C5, fConform8, 68), "CRE", {{81, "7812345     "}}, {68}},
+                {LIGNE(C5, fCoherenCC, 50), "CRE", {{81, "77123456    "}}, {50}},
+                {LIGNE(C6, fDATEC, 28), "CRE", {{93, "31022024"}}, {28}},
+                {LIGNE(C6, fCoherenDC, 52), "CRE", {{93, "16032024"}}, {52}},
+                {LIGNE(C7, fConform_OC_model1, 153), "CRE DEM", {{101, "AZE123X "}}, {153}},
+                {LIGNE(C7, fConform_OC_model2, 154), "CRE DEM", {{101, "OZE123  "}}, {154}},
+                {LIGNE(C7, fConform_OC_model3, 155), "CRE DEM", {{101, "ABE123  "}}, {155}},
+                {LIGNE(C7, fConform_OC_model4, 156), "CRE DEM", {{101, "AZX123  "}, {111, " "}}, {156}},
+                {LIGNE(C7, fConform_OC_model5, 157), "CRE DEM", {{101, "AZE12X  "}}, {157}},
+                {LIGNE(C8, fConform_OC_pays_orig, 152), "CRE", {{109, "ZZ"}}, {152}},
+                {LIGNE(C9, fConform_OC_compteur, 158), "CRE", {{111, "8"}}, {158}},
+                {LIGNE(C10, groc_cre_C10_1, 102), "CRE", {{112, "31022024"}}, {102}},
+                {LIGNE(C10, groc_cre_C10_2, 52), "CRE", {{112, "16032024"}}, {52}},
+                {LIGNE(C12, groc_cre_C12, 103), "CRE", {{122, "240000"}}, {103}},
             },
     });
     for (const int ligne : {20, 21, 24}) {

@@ -1,7 +1,11 @@
 #include <gtest/gtest.h>
 
 #include "messages/cas.h"
-#include "messages/messages.h"
+#include "vocabulaire/regle.h"
+
+namespace quilvane {
+fVerif impo_C2, impo_C20, impo_C6_1, impo_C6_2, impo_C7;
+}  // namespace quilvane
 
 using namespace essai;
 using namespace quilvane;
@@ -54,52 +58,56 @@ TEST(Impo, TouteLignePasseEtEchoue) {
         .modele = importation,
         .cas =
             {
-                {0, tous, {{63, "BE"}}, {1}},
-                {1,
+                {LIGNE(C1, fVerifValAut, 1), tous, {{63, "BE"}}, {1}},
+                {LIGNE(C2, fVerifDiffNull, 1),
                  "CRE INV",
                  {{65, BLANCS_12}},
                  {1, 118, 50},
                  "a blank number has neither form nor department"},
-                {1, "MOD", {{65, BLANCS_12}}, {1, 118}, "a blank number has no form"},
-                {2, tous, {{65, "7812340000  "}}, {118}},
-                {3, "CRE INV", {{65, "7712345678  "}}, {50}},
-                {5, sauvINV, {{79, "3"}}, {3}},
-                {6, sauvINV, {{80, "16"}}, {4}},
-                {7, sauvINV, {{82, "31042020"}}, {5}},
-                {8,
+                {LIGNE(C2, fVerifDiffNull, 1),
+                 "MOD",
+                 {{65, BLANCS_12}},
+                 {1, 118},
+                 "a blank number has no form"},
+                {LIGNE(C2, impo_C2, 118), tous, {{65, "7812340000  "}}, {118}},
+                {LIGNE(C2, fCoherenCC, 50), "CRE INV", {{65, "7712345678  "}}, {50}},
+                {LIGNE(C4, fVerifValAut, 3), sauvINV, {{79, "3"}}, {3}},
+                {LIGNE(C5, fVerifValAut, 4), sauvINV, {{80, "16"}}, {4}},
+                {LIGNE(C6, impo_C6_1, 5), sauvINV, {{82, "31042020"}}, {5}},
+                {LIGNE(C6, impo_C6_2, 52),
                  "CRE",
                  {{82, "16032024"}},
                  {52, 137},
                  "a date after the record's is after any correct receipt date"},
-                {8, "MOD", {{82, "16032024"}}, {52}},
-                {9, sauvINV, {{90, "    "}}, {10}},
-                {12, sauvINV, {{105, "QQ"}}, {6}},
-                {13, sauvINV, {{107, "DE12345678  "}}, {6}},
-                {14, sauvINV, {{107, BLANCS_12}}, {113}},
-                {15, sauvINV, {{119, "16"}}, {8}},
-                {16, sauvINV, {{121, "QQ"}}, {14}},
-                {17, sauvINV, {{123, "DE12345678  "}}, {14}},
-                {18, sauvINV, {{123, BLANCS_12}}, {114}},
-                {19, sauvINV, {{135, "16"}}, {9}},
-                {20, sauvINV, {{137, "QQ"}}, {2}},
-                {21, sauvINV, {{137, "FR"}, {139, "99123456    "}}, {68}},
-                {22, sauvINV, {{139, "12 456      "}}, {2}},
-                {23, sauvINV, {{137, "FR"}, {139, BLANCS_12}}, {115}},
-                {24, "CRE", {{151, "BE"}}, {21}},
-                {25,
+                {LIGNE(C6, impo_C6_2, 52), "MOD", {{82, "16032024"}}, {52}},
+                {LIGNE(C7, impo_C7, 10), sauvINV, {{90, "    "}}, {10}},
+                {LIGNE(C10, fVDIFFNULLVTAB, 6), sauvINV, {{105, "QQ"}}, {6}},
+                {LIGNE(C11, fVerifNumEtrangerN, 6), sauvINV, {{107, "DE12345678  "}}, {6}},
+                {LIGNE(C11, fSimult, 113), sauvINV, {{107, BLANCS_12}}, {113}},
+                {LIGNE(C12, fVDIFFNULLVTAB, 8), sauvINV, {{119, "16"}}, {8}},
+                {LIGNE(C13, fVDIFFNULLVTAB, 14), sauvINV, {{121, "QQ"}}, {14}},
+                {LIGNE(C14, fVerifNumEtrangerN, 14), sauvINV, {{123, "DE12345678  "}}, {14}},
+                {LIGNE(C14, fSimult, 114), sauvINV, {{123, BLANCS_12}}, {114}},
+                {LIGNE(C15, fVDIFFNULLVTAB, 9), sauvINV, {{135, "16"}}, {9}},
+                {LIGNE(C16, fVDIFFNULLVTAB, 2), sauvINV, {{137, "QQ"}}, {2}},
+                {LIGNE(C17, fCONFORM8FRNULL, 68), sauvINV, {{137, "FR"}, {139, "99123456    "}}, {68}},
+                {LIGNE(C17, fConform8FRnon, 2), sauvINV, {{139, "12 456      "}}, {2}},
+                {LIGNE(C17, fSimult, 115), sauvINV, {{137, "FR"}, {139, BLANCS_12}}, {115}},
+                {LIGNE(C18, fVerifValAut, 21), "CRE", {{151, "BE"}}, {21}},
+                {LIGNE(C19, fVerifDiffNull, 21),
                  "CRE",
                  {{153, BLANCS_12}},
                  {21, 68, 50},
                  "a blank number has neither form nor department"},
-                {26, "CRE", {{153, "7812345     "}}, {68}},
-                {27, "CRE", {{153, "77123456    "}}, {50}},
-                {28, sauvINV, {{165, "FR"}}, {49}},
-                {29, sauvINV, {{167, std::string(14, ' ')}}, {49}},
-                {30, sauvINV, {{181, "1"}}, {54}},
-                {31, "MOD", {{182, "2"}}, {132}},
-                {32, "CRE", {{183, BLANCS_8}}, {134}},
-                {33, "CRE", {{183, "16032024"}}, {52}},
-                {34, "CRE", {{183, "31122019"}}, {137}},
+                {LIGNE(C19, fConform8, 68), "CRE", {{153, "7812345     "}}, {68}},
+                {LIGNE(C19, fCoherenCC, 50), "CRE", {{153, "77123456    "}}, {50}},
+                {LIGNE(C20, impo_C20, 49), sauvINV, {{165, "FR"}}, {49}},
+                {LIGNE(C21, fVerifDiffNull, 49), sauvINV, {{167, std::string(14, ' ')}}, {49}},
+                {LIGNE(C22, fVerifValAut, 54), sauvINV, {{181, "1"}}, {54}},
+                {LIGNE(C23, fVerifValAut, 132), "MOD", {{182, "2"}}, {132}},
+                {LIGNE(C24, fDatRecCorr_O, 134), "CRE", {{183, BLANCS_8}}, {134}},
+                {LIGNE(C24, fDatRecCohe, 52), "CRE", {{183, "16032024"}}, {52}},
+                {LIGNE(C24, fDatRecPost, 137), "CRE", {{183, "31122019"}}, {137}},
             },
     });
 }
@@ -120,11 +128,11 @@ TEST(Impo, NumeroDeLAnimal) {
                    {"7812345678", false},
                    {"            ", false},
                    {"", false}},
-                  TD, LenTD);
+                  TD);
     // The departments are those of the row's list.
-    EXPECT_FALSE(accepte(impo_C2, "", "7812345678  ", TD, 0));
-    EXPECT_FALSE(accepte(impo_C2, "", "7812345678  ", TD, 1));
-    EXPECT_TRUE(accepte(impo_C2, "", "0112345678  ", TD, 1));
+    EXPECT_FALSE(accepte(impo_C2, "", "7812345678  ", sansListe));
+    EXPECT_FALSE(accepte(impo_C2, "", "7812345678  ", liste{{"01"}}));
+    EXPECT_TRUE(accepte(impo_C2, "", "0112345678  ", liste{{"01"}}));
 }
 
 TEST(Impo, DateDeNaissance) {
@@ -141,11 +149,11 @@ TEST(Impo, DateDeNaissance) {
                    {"       ", false},
                    {"NORMABEV", false},
                    {"", false}},
-                  HuitBlancsFal, LenHuitBlancsFal);
+                  HuitBlancsFal);
     std::string apres;
-    EXPECT_TRUE(accepte(impo_C6_1, "", "  012020", HuitBlancsFal, LenHuitBlancsFal, &apres));
+    EXPECT_TRUE(accepte(impo_C6_1, "", "  012020", HuitBlancsFal, &apres));
     EXPECT_EQ(apres, "00012020");
-    EXPECT_TRUE(accepte(impo_C6_1, "", BLANCS_8, HuitBlancsFal, LenHuitBlancsFal, &apres));
+    EXPECT_TRUE(accepte(impo_C6_1, "", BLANCS_8, HuitBlancsFal, &apres));
     EXPECT_EQ(apres, BLANCS_8);
 }
 
@@ -158,12 +166,12 @@ TEST(Impo, DateDeNaissanceEtDateDEnregistrement) {
                    {"14032024", true},
                    {"  032024", true},
                    {"  042024", false}},
-                  HuitBlancsFal, LenHuitBlancsFal);
+                  HuitBlancsFal);
     // An open date passes before any record date, even none.
-    EXPECT_TRUE(accepte(impo_C6_2, "", ETOILES_8, HuitBlancsFal, LenHuitBlancsFal));
-    EXPECT_TRUE(accepte(impo_C6_2, "", BLANCS_8, HuitBlancsFal, LenHuitBlancsFal));
-    EXPECT_TRUE(accepte(impo_C6_2, "  \x1f     ", BLANCS_8, HuitBlancsFal, LenHuitBlancsFal));
-    EXPECT_FALSE(accepte(impo_C6_2, "", "01012020", HuitBlancsFal, LenHuitBlancsFal));
+    EXPECT_TRUE(accepte(impo_C6_2, "", ETOILES_8, HuitBlancsFal));
+    EXPECT_TRUE(accepte(impo_C6_2, "", BLANCS_8, HuitBlancsFal));
+    EXPECT_TRUE(accepte(impo_C6_2, "  \x1f     ", BLANCS_8, HuitBlancsFal));
+    EXPECT_FALSE(accepte(impo_C6_2, "", "01012020", HuitBlancsFal));
 }
 
 TEST(Impo, Nom) {
@@ -190,7 +198,7 @@ TEST(Impo, PaysDeProvenance) {
                    {"F", false},
                    {"BE ", false},
                    {"", false}},
-                  TP, LenTP);
+                  TP);
 }
 
 TEST(Impo, CasDEnregistrements) {

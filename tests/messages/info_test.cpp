@@ -22,11 +22,15 @@ TEST(Info, TouteLignePasseEtEchoue) {
         .modele = modele,
         .cas =
             {
-                {0, "DEM", {{63, "ZZ"}}, {1}},
-                {1, "DEM", {{65, BLANCS12}}, {1, 67}, "a blank number has no form"},
-                {2, "DEM", {{65, "781234567   "}}, {67}},
-                {3, "DEM", {{63, "US"}, {65, "781234567   "}}, {118}},
-                {4, "DEM", {{63, "BE"}, {65, "BE12345     "}}, {1}},
+                {LIGNE(C1, fVerifValAut, 1), "DEM", {{63, "ZZ"}}, {1}},
+                {LIGNE(C2, fVerifDiffNull, 1),
+                 "DEM",
+                 {{65, BLANCS12}},
+                 {1, 67},
+                 "a blank number has no form"},
+                {LIGNE(C2, fConform10FR, 67), "DEM", {{65, "781234567   "}}, {67}},
+                {LIGNE(C2, fConform10FRnonECHAnon, 118), "DEM", {{63, "US"}, {65, "781234567   "}}, {118}},
+                {LIGNE(C2, fConform10FRnonECHAoui, 1), "DEM", {{63, "BE"}, {65, "BE12345     "}}, {1}},
             },
         .emetteur = EMETTEUR,
     });

@@ -1,7 +1,12 @@
 #include <gtest/gtest.h>
 
 #include "messages/cas.h"
-#include "messages/messages.h"
+#include "vocabulaire/regle.h"
+#include "vocabulaire/store.h"
+
+namespace quilvane {
+fVerif nais_C11, nais_C11FRnonUEnon, nais_C11FRnonUEoui, nais_C17, nais_C2, nais_C7, nvmn_C2;
+}  // namespace quilvane
 
 using namespace essai;
 using namespace quilvane;
@@ -55,80 +60,80 @@ TEST(Nais, TouteLignePasseEtEchoue) {
         // clang-format off
         .cas = {
             // animal
-            {0, "CRE INV MOD ECQ", {{63, "BE"}}, {1}},
-            {1, "DEM", {{63, "ZZ"}}, {1}},
-            {2, "CRE INV ECQ", {{65, SANS_NUMERO}}, {1, 67, 50}, NUMERO_BLANC},
-            {2, "DEM MOD", {{65, SANS_NUMERO}}, {1, 67}, NUMERO_BLANC},
-            {2, "DEM", {{63, "US"}, {65, SANS_NUMERO}}, {1, 118}, NUMERO_BLANC},
-            {2, "DEM", {{63, "BE"}, {65, SANS_NUMERO}}, {1, 1}, NUMERO_BLANC},
-            {3, "CRE ECQ", {{65, "781234567   "}}, {67}},
-            {3, "CRE ECQ", {{65, "7812340000  "}}, {67}},
-            {4, "INV MOD", {{65, "781234567   "}}, {67}},
-            {5, "DEM", {{65, "781234567   "}}, {67}},
-            {6, "DEM", {{63, "US"}, {65, "781234567   "}}, {118}},
-            {7, "DEM", {{63, "BE"}, {65, "BE1234567   "}}, {1}},
-            {8, "CRE INV ECQ", {{65, "3512345678  "}}, {50}},
-            {10, "CRE MOD ECQ", {{79, "3"}}, {3}},
-            {11, "CRE MOD ECQ", {{80, "99"}}, {4}},
+            {LIGNE(C1, fVerifValAut, 1), "CRE INV MOD ECQ", {{63, "BE"}}, {1}},
+            {LIGNE(C1, fVerifValAut, 1), "DEM", {{63, "ZZ"}}, {1}},
+            {LIGNE(C2, fVerifDiffNull, 1), "CRE INV ECQ", {{65, SANS_NUMERO}}, {1, 67, 50}, NUMERO_BLANC},
+            {LIGNE(C2, fVerifDiffNull, 1), "DEM MOD", {{65, SANS_NUMERO}}, {1, 67}, NUMERO_BLANC},
+            {LIGNE(C2, fVerifDiffNull, 1), "DEM", {{63, "US"}, {65, SANS_NUMERO}}, {1, 118}, NUMERO_BLANC},
+            {LIGNE(C2, fVerifDiffNull, 1), "DEM", {{63, "BE"}, {65, SANS_NUMERO}}, {1, 1}, NUMERO_BLANC},
+            {LIGNE(C2, nais_C2, 67), "CRE ECQ", {{65, "781234567   "}}, {67}},
+            {LIGNE(C2, nais_C2, 67), "CRE ECQ", {{65, "7812340000  "}}, {67}},
+            {LIGNE(C2, fConform10, 67), "INV MOD", {{65, "781234567   "}}, {67}},
+            {LIGNE(C2, fConform10FR, 67), "DEM", {{65, "781234567   "}}, {67}},
+            {LIGNE(C2, fConform10FRnonECHAnon, 118), "DEM", {{63, "US"}, {65, "781234567   "}}, {118}},
+            {LIGNE(C2, fConform10FRnonECHAoui, 1), "DEM", {{63, "BE"}, {65, "BE1234567   "}}, {1}},
+            {LIGNE(C2, fCoherenCC, 50), "CRE INV ECQ", {{65, "3512345678  "}}, {50}},
+            {LIGNE(C4, fVerifValAut, 3), "CRE MOD ECQ", {{79, "3"}}, {3}},
+            {LIGNE(C5, fVerifValAut, 4), "CRE MOD ECQ", {{80, "99"}}, {4}},
             // birth date
-            {12, "CRE ECQ", {{82, "30022023"}}, {5}},
-            {12, "CRE ECQ", {{82, "  061998"}}, {5}},
-            {13, "MOD", {{82, "30022023"}}, {5}},
-            {13, "MOD", {{82, "  022024"}}, {5}},
-            {14, "CRE ECQ", {{82, "16032024"}, {161, "16032024"}}, {52, 52},
+            {LIGNE(C6, fDATEC, 5), "CRE ECQ", {{82, "30022023"}}, {5}},
+            {LIGNE(C6, fDATEC, 5), "CRE ECQ", {{82, "  061998"}}, {5}},
+            {LIGNE(C6, fDATEP6P7, 5), "MOD", {{82, "30022023"}}, {5}},
+            {LIGNE(C6, fDATEP6P7, 5), "MOD", {{82, "  022024"}}, {5}},
+            {LIGNE(C6, fCoherenDC, 52), "CRE ECQ", {{82, "16032024"}, {161, "16032024"}}, {52, 52},
              "a receipt after the birth is after the record, too"},
-            {14, "CRE ECQ", {{82, "16032024"}}, {52, 137}, "a receipt before the record is before the birth"},
-            {14, "MOD", {{82, "16032024"}}, {52}},
-            {15, "CRE MOD ECQ", {{90, "    "}}, {10}},
+            {LIGNE(C6, fCoherenDC, 52), "CRE ECQ", {{82, "16032024"}}, {52, 137}, "a receipt before the record is before the birth"},
+            {LIGNE(C6, fCoherenDC, 52), "MOD", {{82, "16032024"}}, {52}},
+            {LIGNE(C7, nais_C7, 10), "CRE MOD ECQ", {{90, "    "}}, {10}},
             // dam
-            {18, "CRE ECQ", {{105, "ZZ"}}, {6}},
-            {19, "MOD", {{105, "ZZ"}}, {7}},
-            {20, "CRE ECQ", {{107, SANS_NUMERO}}, {6, 67}, NUMERO_BLANC},
-            {20, "CRE ECQ", {{105, "US"}, {107, SANS_NUMERO}}, {6, 118}, NUMERO_BLANC},
-            {20, "CRE ECQ", {{105, "BE"}, {107, SANS_NUMERO}}, {6, 6}, NUMERO_BLANC},
-            {21, "CRE ECQ", {{107, "781234567   "}}, {67}},
-            {22, "CRE ECQ", {{105, "US"}, {107, "781234567   "}}, {118}},
-            {23, "CRE ECQ", {{105, "BE"}, {107, "BE1234567   "}}, {6}},
-            {24, "MOD", {{107, SANS_NUMERO}}, {7, 67, 113}, "a blank number goes with no country"},
-            {24, "MOD", {{105, "US"}, {107, SANS_NUMERO}}, {7, 118, 113}, "a blank number goes with no country"},
-            {24, "MOD", {{105, "BE"}, {107, SANS_NUMERO}}, {7, 6, 113}, "a blank number goes with no country"},
-            {24, "MOD", {{105, SANS_CODE}, {107, SANS_NUMERO}}, {7, 7, 118},
+            {LIGNE(C10, fVerifValAut, 6), "CRE ECQ", {{105, "ZZ"}}, {6}},
+            {LIGNE(C10, fVTABP5, 7), "MOD", {{105, "ZZ"}}, {7}},
+            {LIGNE(C11, fVerifDiffNull, 6), "CRE ECQ", {{107, SANS_NUMERO}}, {6, 67}, NUMERO_BLANC},
+            {LIGNE(C11, fVerifDiffNull, 6), "CRE ECQ", {{105, "US"}, {107, SANS_NUMERO}}, {6, 118}, NUMERO_BLANC},
+            {LIGNE(C11, fVerifDiffNull, 6), "CRE ECQ", {{105, "BE"}, {107, SANS_NUMERO}}, {6, 6}, NUMERO_BLANC},
+            {LIGNE(C11, fConform10FR, 67), "CRE ECQ", {{107, "781234567   "}}, {67}},
+            {LIGNE(C11, fConform10FRnonECHAnon, 118), "CRE ECQ", {{105, "US"}, {107, "781234567   "}}, {118}},
+            {LIGNE(C11, fConform10FRnonECHAoui, 6), "CRE ECQ", {{105, "BE"}, {107, "BE1234567   "}}, {6}},
+            {LIGNE(C11, fVDIFFNULLP5, 7), "MOD", {{107, SANS_NUMERO}}, {7, 67, 113}, "a blank number goes with no country"},
+            {LIGNE(C11, fVDIFFNULLP5, 7), "MOD", {{105, "US"}, {107, SANS_NUMERO}}, {7, 118, 113}, "a blank number goes with no country"},
+            {LIGNE(C11, fVDIFFNULLP5, 7), "MOD", {{105, "BE"}, {107, SANS_NUMERO}}, {7, 6, 113}, "a blank number goes with no country"},
+            {LIGNE(C11, fVDIFFNULLP5, 7), "MOD", {{105, SANS_CODE}, {107, SANS_NUMERO}}, {7, 7, 118},
              "no country is a country outside the exchanges"},
-            {25, "MOD", {{107, "781234567   "}}, {67}},
-            {26, "MOD", {{105, "US"}, {107, "781234567   "}}, {118}},
-            {27, "MOD", {{105, "BE"}, {107, "BE1234567   "}}, {6}},
-            {28, "MOD", {{82, "30061999"}, {105, SANS_CODE}}, {113}},
-            {28, "MOD", {{82, "30061999"}, {105, "US"}, {107, SANS_NUMERO}}, {113}},
-            {29, "CRE ECQ", {{119, "99"}}, {8}},
-            {29, "CRE ECQ", {{119, SANS_CODE}}, {8}},
-            {30, "MOD", {{119, "99"}}, {8}},
-            {30, "MOD", {{119, SANS_CODE}}, {8}},
+            {LIGNE(C11, nais_C11, 67), "MOD", {{107, "781234567   "}}, {67}},
+            {LIGNE(C11, nais_C11FRnonUEnon, 118), "MOD", {{105, "US"}, {107, "781234567   "}}, {118}},
+            {LIGNE(C11, nais_C11FRnonUEoui, 6), "MOD", {{105, "BE"}, {107, "BE1234567   "}}, {6}},
+            {LIGNE(C11, fSimult, 113), "MOD", {{82, "30061999"}, {105, SANS_CODE}}, {113}},
+            {LIGNE(C11, fSimult, 113), "MOD", {{82, "30061999"}, {105, "US"}, {107, SANS_NUMERO}}, {113}},
+            {LIGNE(C12, fVerifValAut, 8), "CRE ECQ", {{119, "99"}}, {8}},
+            {LIGNE(C12, fVerifValAut, 8), "CRE ECQ", {{119, SANS_CODE}}, {8}},
+            {LIGNE(C12, fVTABP8, 8), "MOD", {{119, "99"}}, {8}},
+            {LIGNE(C12, fVTABP8, 8), "MOD", {{119, SANS_CODE}}, {8}},
             // sire
-            {31, "CRE MOD ECQ", {{121, "ZZ"}}, {14}},
-            {32, "CRE MOD ECQ", {{121, SANS_CODE}}, {114}},
-            {32, "CRE MOD ECQ", {{123, SANS_NUMERO}}, {114}},
-            {33, "CRE MOD ECQ", {{123, "BE-1        "}}, {14}},
-            {34, "CRE ECQ", {{135, "99"}}, {9}},
-            {35, "MOD", {{135, "99"}}, {9}},
-            {35, "MOD", {{135, SANS_CODE}}, {9}},
+            {LIGNE(C13, fVDIFFNULLVTAB, 14), "CRE MOD ECQ", {{121, "ZZ"}}, {14}},
+            {LIGNE(C14, fSimult, 114), "CRE MOD ECQ", {{121, SANS_CODE}}, {114}},
+            {LIGNE(C14, fSimult, 114), "CRE MOD ECQ", {{123, SANS_NUMERO}}, {114}},
+            {LIGNE(C14, fVerifNumEtrangerN, 14), "CRE MOD ECQ", {{123, "BE-1        "}}, {14}},
+            {LIGNE(C15, fVerifValAut, 9), "CRE ECQ", {{135, "99"}}, {9}},
+            {LIGNE(C15, fVTABP8, 9), "MOD", {{135, "99"}}, {9}},
+            {LIGNE(C15, fVTABP8, 9), "MOD", {{135, SANS_CODE}}, {9}},
             // holding
-            {36, "CRE ECQ", {{137, "BE"}}, {2}},
-            {37, "MOD", {{137, "BE"}}, {2}},
-            {38, "CRE ECQ", {{139, SANS_NUMERO}}, {2, 68, 50}, NUMERO_BLANC},
-            {39, "CRE ECQ", {{139, "7812345     "}}, {68}},
-            {40, "CRE ECQ", {{139, "35123456    "}}, {50}},
-            {41, "MOD", {{139, SANS_NUMERO}}, {2, 68, 115}, "a blank number has no form and goes with no country"},
-            {41, "MOD", {{137, SANS_CODE}, {139, SANS_NUMERO}}, {2, 2, 68}, "without the country it is missing, too"},
-            {42, "MOD", {{139, "7812345     "}}, {68}},
-            {43, "MOD", {{82, "30061999"}, {139, SANS_NUMERO}}, {115}},
-            {43, "MOD", {{82, "30061999"}, {137, SANS_CODE}}, {115}},
+            {LIGNE(C16, fVerifValAut, 2), "CRE ECQ", {{137, "BE"}}, {2}},
+            {LIGNE(C16, fVTABP6, 2), "MOD", {{137, "BE"}}, {2}},
+            {LIGNE(C17, fVerifDiffNull, 2), "CRE ECQ", {{139, SANS_NUMERO}}, {2, 68, 50}, NUMERO_BLANC},
+            {LIGNE(C17, fConform8, 68), "CRE ECQ", {{139, "7812345     "}}, {68}},
+            {LIGNE(C17, fCoherenCC, 50), "CRE ECQ", {{139, "35123456    "}}, {50}},
+            {LIGNE(C17, fVDIFFNULLP6, 2), "MOD", {{139, SANS_NUMERO}}, {2, 68, 115}, "a blank number has no form and goes with no country"},
+            {LIGNE(C17, fVDIFFNULLP6, 2), "MOD", {{137, SANS_CODE}, {139, SANS_NUMERO}}, {2, 2, 68}, "without the country it is missing, too"},
+            {LIGNE(C17, nais_C17, 68), "MOD", {{139, "7812345     "}}, {68}},
+            {LIGNE(C17, fSimult, 115), "MOD", {{82, "30061999"}, {139, SANS_NUMERO}}, {115}},
+            {LIGNE(C17, fSimult, 115), "MOD", {{82, "30061999"}, {137, SANS_CODE}}, {115}},
             // flags and receipt
-            {44, "CRE ECQ", {{159, "2"}}, {83}},
-            {45, "MOD", {{160, "2"}}, {132}},
-            {46, "CRE ECQ", {{161, SANS_DATE}}, {134}},
-            {46, "CRE ECQ", {{161, "31022024"}}, {134}},
-            {47, "CRE ECQ", {{161, "16032024"}}, {52}},
-            {48, "CRE ECQ", {{161, "31012024"}}, {137}},
+            {LIGNE(C24, fVerifValAut, 83), "CRE ECQ", {{159, "2"}}, {83}},
+            {LIGNE(C25, fVerifValAut, 132), "MOD", {{160, "2"}}, {132}},
+            {LIGNE(C26, fDatRecCorr_O, 134), "CRE ECQ", {{161, SANS_DATE}}, {134}},
+            {LIGNE(C26, fDatRecCorr_O, 134), "CRE ECQ", {{161, "31022024"}}, {134}},
+            {LIGNE(C26, fDatRecCohe, 52), "CRE ECQ", {{161, "16032024"}}, {52}},
+            {LIGNE(C26, fDatRecPost, 137), "CRE ECQ", {{161, "31012024"}}, {137}},
         },
         // clang-format on
     });
@@ -248,8 +253,8 @@ TEST(Nais, NumeroSansSerieNulle) {
                           {"781234", false},
                           {"", false},
                       },
-                      TD, LenTD);
-        EXPECT_FALSE(accepte(verif, "", "7812345678  ", TD, 0));
+                      TD);
+        EXPECT_FALSE(accepte(verif, "", "7812345678  ", sansListe));
     }
 }
 
@@ -295,7 +300,7 @@ TEST(Nais, NumeroBlancAvantP5) {
                               {"", false},
                               {"7812345678  ", true},
                           },
-                          TD, LenTD);
+                          TD);
         }
     }
 }
@@ -330,16 +335,16 @@ TEST(Nais, NumeroDeMereSelonPays) {
         remplir(valCorpsVSE[C10], c.pays);
         for (const auto& d : AUTOUR_DE_P5) {
             SCOPED_TRACE(std::string(c.pays) + " " + c.numero + " " + d.c6);
-            EXPECT_EQ(accepte(nais_C11, d.c6, c.numero, TD, LenTD), c.fr);
-            EXPECT_EQ(accepte(nais_C11FRnonUEnon, d.c6, c.numero, TD, LenTD), c.horsEchanges);
+            EXPECT_EQ(accepte(nais_C11, d.c6, c.numero, TD), c.fr);
+            EXPECT_EQ(accepte(nais_C11FRnonUEnon, d.c6, c.numero, TD), c.horsEchanges);
             EXPECT_EQ(accepte(nais_C11FRnonUEoui, d.c6, c.numero), c.echanges);
         }
     }
     // The departments are those of the row.
     remplir(valCorpsVSE[C10], "FR");
-    EXPECT_FALSE(accepte(nais_C11, "15032024", "7812345678  ", TD, 0));
+    EXPECT_FALSE(accepte(nais_C11, "15032024", "7812345678  ", sansListe));
     remplir(valCorpsVSE[C10], "US");
-    EXPECT_FALSE(accepte(nais_C11FRnonUEnon, "15032024", "7812345678  ", TD, 0));
+    EXPECT_FALSE(accepte(nais_C11FRnonUEnon, "15032024", "7812345678  ", sansListe));
 }
 
 TEST(Nais, ExploitationBlancheAvantP6) {
@@ -360,7 +365,7 @@ TEST(Nais, ExploitationBlancheAvantP6) {
                           {"", false},
                           {"78123456   ", false},
                       },
-                      TD, LenTD);
-        EXPECT_FALSE(accepte(nais_C17, d.c6, "78123456    ", TD, 0));
+                      TD);
+        EXPECT_FALSE(accepte(nais_C17, d.c6, "78123456    ", sansListe));
     }
 }

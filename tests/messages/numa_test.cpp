@@ -1,7 +1,11 @@
 #include <gtest/gtest.h>
 
 #include "messages/cas.h"
-#include "messages/messages.h"
+#include "vocabulaire/regle.h"
+
+namespace quilvane {
+fVerif numa_fC6_1, numa_fC6_2, numa_fC6_3;
+}  // namespace quilvane
 
 using namespace essai;
 using namespace quilvane;
@@ -36,35 +40,35 @@ TEST(Numa, TouteLignePasseEtEchoue) {
         // clang-format off
         .cas = {
             // holding
-            {0, "CRE MOD ECQ", {{63, "BE"}}, {27}},
-            {1, "CRE MOD ECQ", {{65, SANS_NUMERO}}, {27, 68, 50}, NUMERO_BLANC},
-            {2, "CRE MOD ECQ", {{65, "7812345     "}}, {68}},
-            {3, "CRE MOD ECQ", {{65, "35123456    "}}, {50}},
+            {LIGNE(C1, fVerifValAut, 27), "CRE MOD ECQ", {{63, "BE"}}, {27}},
+            {LIGNE(C2, fVerifDiffNull, 27), "CRE MOD ECQ", {{65, SANS_NUMERO}}, {27, 68, 50}, NUMERO_BLANC},
+            {LIGNE(C2, fConform8, 68), "CRE MOD ECQ", {{65, "7812345     "}}, {68}},
+            {LIGNE(C2, fCoherenCC, 50), "CRE MOD ECQ", {{65, "35123456    "}}, {50}},
             // first number and count
-            {5, "CRE MOD ECQ", {{79, "BE"}}, {26}},
-            {6, "CRE MOD ECQ", {{81, SANS_NUMERO}}, {26, 67, 50}, NUMERO_BLANC},
-            {7, "CRE MOD ECQ", {{81, "781234567   "}}, {67}},
-            {8, "CRE MOD ECQ", {{81, "3512345678  "}}, {50}},
-            {9, "CRE MOD ECQ", {{93, "  0050"}}, {48}},
-            {9, "CRE MOD ECQ", {{93, "000000"}}, {48, 177}, "a count of zero is below one"},
-            {10, "CRE MOD ECQ", {{93, "001001"}}, {177}},
-            {11, "CRE MOD ECQ", {{81, "7899999999  "}, {93, "000002"}}, {179}},
-            {12, "CRE ECQ", {{99, "30022023"}}, {28}},
-            {13, "CRE ECQ", {{99, "16032024"}}, {52}},
-            {14, "MOD", {{107, "6"}}, {150}},
+            {LIGNE(C4, fVerifValAut, 26), "CRE MOD ECQ", {{79, "BE"}}, {26}},
+            {LIGNE(C5, fVerifDiffNull, 26), "CRE MOD ECQ", {{81, SANS_NUMERO}}, {26, 67, 50}, NUMERO_BLANC},
+            {LIGNE(C5, fConform10, 67), "CRE MOD ECQ", {{81, "781234567   "}}, {67}},
+            {LIGNE(C5, fCoherenCC, 50), "CRE MOD ECQ", {{81, "3512345678  "}}, {50}},
+            {LIGNE(C6, numa_fC6_1, 48), "CRE MOD ECQ", {{93, "  0050"}}, {48}},
+            {LIGNE(C6, numa_fC6_1, 48), "CRE MOD ECQ", {{93, "000000"}}, {48, 177}, "a count of zero is below one"},
+            {LIGNE(C6, numa_fC6_2, 177), "CRE MOD ECQ", {{93, "001001"}}, {177}},
+            {LIGNE(C6, numa_fC6_3, 179), "CRE MOD ECQ", {{81, "7899999999  "}, {93, "000002"}}, {179}},
+            {LIGNE(C7, fDATEC, 28), "CRE ECQ", {{99, "30022023"}}, {28}},
+            {LIGNE(C7, fCoherenDC, 52), "CRE ECQ", {{99, "16032024"}}, {52}},
+            {LIGNE(C8, fVerifValAut, 150), "MOD", {{107, "6"}}, {150}},
             // tag models
-            {15, "CRE MOD ECQ", {{108, SANS_MODELE}}, {153}},
-            {15, "CRE MOD ECQ", {{108, "ABE1234 "}}, {153}},
-            {16, "CRE MOD ECQ", {{108, "OBE123  "}}, {154}},
-            {17, "CRE MOD ECQ", {{108, "ACE123  "}}, {155}},
-            {18, "CRE MOD ECQ", {{108, "ABZ123  "}}, {156}},
-            {19, "CRE MOD ECQ", {{108, "ABE12X  "}}, {157}},
-            {20, "CRE MOD ECQ", {{116, SANS_MODELE}}, {153}},
-            {20, "CRE MOD ECQ", {{116, "ABE123 X"}}, {153}},
-            {21, "CRE MOD ECQ", {{116, "OBE123  "}}, {154}},
-            {22, "CRE MOD ECQ", {{116, "ACE123  "}}, {155}},
-            {23, "CRE MOD ECQ", {{116, "ABZ123  "}}, {156}},
-            {24, "CRE MOD ECQ", {{116, "ABEX23  "}}, {157}},
+            {LIGNE(C9, fConform_BV_model1, 153), "CRE MOD ECQ", {{108, SANS_MODELE}}, {153}},
+            {LIGNE(C9, fConform_BV_model1, 153), "CRE MOD ECQ", {{108, "ABE1234 "}}, {153}},
+            {LIGNE(C9, fConform_BV_model2, 154), "CRE MOD ECQ", {{108, "OBE123  "}}, {154}},
+            {LIGNE(C9, fConform_BV_model3, 155), "CRE MOD ECQ", {{108, "ACE123  "}}, {155}},
+            {LIGNE(C9, fConform_BV_model4, 156), "CRE MOD ECQ", {{108, "ABZ123  "}}, {156}},
+            {LIGNE(C9, fConform_BV_model5, 157), "CRE MOD ECQ", {{108, "ABE12X  "}}, {157}},
+            {LIGNE(C10, fConform_BV_model1, 153), "CRE MOD ECQ", {{116, SANS_MODELE}}, {153}},
+            {LIGNE(C10, fConform_BV_model1, 153), "CRE MOD ECQ", {{116, "ABE123 X"}}, {153}},
+            {LIGNE(C10, fConform_BV_model2, 154), "CRE MOD ECQ", {{116, "OBE123  "}}, {154}},
+            {LIGNE(C10, fConform_BV_model3, 155), "CRE MOD ECQ", {{116, "ACE123  "}}, {155}},
+            {LIGNE(C10, fConform_BV_model4, 156), "CRE MOD ECQ", {{116, "ABZ123  "}}, {156}},
+            {LIGNE(C10, fConform_BV_model5, 157), "CRE MOD ECQ", {{116, "ABEX23  "}}, {157}},
         },
         // clang-format on
     });

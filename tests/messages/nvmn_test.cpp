@@ -1,7 +1,11 @@
 #include <gtest/gtest.h>
 
 #include "messages/cas.h"
-#include "messages/messages.h"
+#include "vocabulaire/regle.h"
+
+namespace quilvane {
+fVerif nvmn_C2;
+}  // namespace quilvane
 
 using namespace essai;
 using namespace quilvane;
@@ -44,44 +48,44 @@ TEST(Nvmn, TouteLignePasseEtEchoue) {
         // clang-format off
         .cas = {
             // animal
-            {0, "CRE INV MOD ECQ", {{63, "BE"}}, {1}},
-            {1, "CRE INV MOD ECQ", {{65, SANS_NUMERO}}, {1, 67, 50}, NUMERO_BLANC},
-            {2, "CRE MOD ECQ", {{65, "781234567   "}}, {67}},
-            {2, "CRE MOD ECQ", {{65, "7812340000  "}}, {67}},
-            {3, "INV", {{65, "781234567   "}}, {67}},
-            {4, "CRE INV MOD ECQ", {{65, "3512345678  "}}, {50}},
-            {6, "CRE MOD ECQ", {{79, "3"}}, {3}},
-            {7, "CRE MOD ECQ", {{80, "99"}}, {4}},
-            {8, "CRE MOD ECQ", {{82, "30022023"}}, {5}},
-            {8, "CRE MOD ECQ", {{82, "  061998"}}, {5}},
-            {9, "CRE ECQ", {{82, "16032024"}, {151, "16032024"}}, {52, 52},
+            {LIGNE(C1, fVerifValAut, 1), "CRE INV MOD ECQ", {{63, "BE"}}, {1}},
+            {LIGNE(C2, fVerifDiffNull, 1), "CRE INV MOD ECQ", {{65, SANS_NUMERO}}, {1, 67, 50}, NUMERO_BLANC},
+            {LIGNE(C2, nvmn_C2, 67), "CRE MOD ECQ", {{65, "781234567   "}}, {67}},
+            {LIGNE(C2, nvmn_C2, 67), "CRE MOD ECQ", {{65, "7812340000  "}}, {67}},
+            {LIGNE(C2, fConform10, 67), "INV", {{65, "781234567   "}}, {67}},
+            {LIGNE(C2, fCoherenCC, 50), "CRE INV MOD ECQ", {{65, "3512345678  "}}, {50}},
+            {LIGNE(C4, fVerifValAut, 3), "CRE MOD ECQ", {{79, "3"}}, {3}},
+            {LIGNE(C5, fVerifValAut, 4), "CRE MOD ECQ", {{80, "99"}}, {4}},
+            {LIGNE(C6, fDATEC, 5), "CRE MOD ECQ", {{82, "30022023"}}, {5}},
+            {LIGNE(C6, fDATEC, 5), "CRE MOD ECQ", {{82, "  061998"}}, {5}},
+            {LIGNE(C6, fCoherenDC, 52), "CRE ECQ", {{82, "16032024"}, {151, "16032024"}}, {52, 52},
              "a receipt after the birth is after the record, too"},
-            {9, "CRE ECQ", {{82, "16032024"}}, {52, 137}, "a receipt before the record is before the birth"},
-            {9, "MOD", {{82, "16032024"}}, {52}},
+            {LIGNE(C6, fCoherenDC, 52), "CRE ECQ", {{82, "16032024"}}, {52, 137}, "a receipt before the record is before the birth"},
+            {LIGNE(C6, fCoherenDC, 52), "MOD", {{82, "16032024"}}, {52}},
             // dam
-            {13, "CRE MOD ECQ", {{105, "ZZ"}}, {7}},
-            {14, "CRE MOD ECQ", {{107, SANS_NUMERO}}, {7, 67}, NUMERO_BLANC},
-            {14, "CRE MOD ECQ", {{105, "US"}, {107, SANS_NUMERO}}, {7, 118}, NUMERO_BLANC},
-            {14, "CRE MOD ECQ", {{105, "BE"}, {107, SANS_NUMERO}}, {7, 6}, NUMERO_BLANC},
-            {15, "CRE MOD ECQ", {{107, "781234567   "}}, {67}},
-            {16, "CRE MOD ECQ", {{105, "US"}, {107, "781234567   "}}, {118}},
-            {17, "CRE MOD ECQ", {{105, "BE"}, {107, "BE1234567   "}}, {6}},
-            {18, "CRE MOD ECQ", {{119, "99"}}, {8}},
+            {LIGNE(C10, fVerifValAut, 7), "CRE MOD ECQ", {{105, "ZZ"}}, {7}},
+            {LIGNE(C11, fVerifDiffNull, 7), "CRE MOD ECQ", {{107, SANS_NUMERO}}, {7, 67}, NUMERO_BLANC},
+            {LIGNE(C11, fVerifDiffNull, 7), "CRE MOD ECQ", {{105, "US"}, {107, SANS_NUMERO}}, {7, 118}, NUMERO_BLANC},
+            {LIGNE(C11, fVerifDiffNull, 7), "CRE MOD ECQ", {{105, "BE"}, {107, SANS_NUMERO}}, {7, 6}, NUMERO_BLANC},
+            {LIGNE(C11, fConform10FR, 67), "CRE MOD ECQ", {{107, "781234567   "}}, {67}},
+            {LIGNE(C11, fConform10FRnonECHAnon, 118), "CRE MOD ECQ", {{105, "US"}, {107, "781234567   "}}, {118}},
+            {LIGNE(C11, fConform10FRnonECHAoui, 6), "CRE MOD ECQ", {{105, "BE"}, {107, "BE1234567   "}}, {6}},
+            {LIGNE(C12, fVerifValAut, 8), "CRE MOD ECQ", {{119, "99"}}, {8}},
             // sire
-            {19, "CRE MOD ECQ", {{121, "ZZ"}}, {14}},
-            {20, "CRE MOD ECQ", {{121, SANS_CODE}}, {114}},
-            {20, "CRE MOD ECQ", {{123, SANS_NUMERO}}, {114}},
-            {21, "CRE MOD ECQ", {{123, "BE-1        "}}, {14}},
-            {22, "CRE MOD ECQ", {{135, "99"}}, {9}},
+            {LIGNE(C13, fVDIFFNULLVTAB, 14), "CRE MOD ECQ", {{121, "ZZ"}}, {14}},
+            {LIGNE(C14, fSimult, 114), "CRE MOD ECQ", {{121, SANS_CODE}}, {114}},
+            {LIGNE(C14, fSimult, 114), "CRE MOD ECQ", {{123, SANS_NUMERO}}, {114}},
+            {LIGNE(C14, fVerifNumEtrangerN, 14), "CRE MOD ECQ", {{123, "BE-1        "}}, {14}},
+            {LIGNE(C15, fVerifValAut, 9), "CRE MOD ECQ", {{135, "99"}}, {9}},
             // holding and receipt
-            {23, "CRE MOD ECQ", {{137, "BE"}}, {2}},
-            {24, "CRE MOD ECQ", {{139, SANS_NUMERO}}, {2, 68, 50}, NUMERO_BLANC},
-            {25, "CRE MOD ECQ", {{139, "7812345     "}}, {68}},
-            {26, "CRE MOD ECQ", {{139, "35123456    "}}, {50}},
-            {27, "CRE ECQ", {{151, SANS_DATE}}, {134}},
-            {27, "CRE ECQ", {{151, "31022024"}}, {134}},
-            {28, "CRE ECQ", {{151, "16032024"}}, {52}},
-            {29, "CRE ECQ", {{151, "31012024"}}, {137}},
+            {LIGNE(C16, fVerifValAut, 2), "CRE MOD ECQ", {{137, "BE"}}, {2}},
+            {LIGNE(C17, fVerifDiffNull, 2), "CRE MOD ECQ", {{139, SANS_NUMERO}}, {2, 68, 50}, NUMERO_BLANC},
+            {LIGNE(C17, fConform8, 68), "CRE MOD ECQ", {{139, "7812345     "}}, {68}},
+            {LIGNE(C17, fCoherenCC, 50), "CRE MOD ECQ", {{139, "35123456    "}}, {50}},
+            {LIGNE(C18, fDatRecCorr_O, 134), "CRE ECQ", {{151, SANS_DATE}}, {134}},
+            {LIGNE(C18, fDatRecCorr_O, 134), "CRE ECQ", {{151, "31022024"}}, {134}},
+            {LIGNE(C18, fDatRecCohe, 52), "CRE ECQ", {{151, "16032024"}}, {52}},
+            {LIGNE(C18, fDatRecPost, 137), "CRE ECQ", {{151, "31012024"}}, {137}},
         },
         // clang-format on
     });

@@ -1,6 +1,8 @@
-#include "checks/utils.h"
 #include "messages/cas.h"
-#include "messages/messages.h"
+
+namespace quilvane {
+fVerif pass_C10, pass_C7;
+}  // namespace quilvane
 
 using namespace essai;
 using namespace quilvane;
@@ -31,27 +33,37 @@ TEST(Pass, TouteLignePasseEtEchoue) {
         .modele = modele,
         .cas =
             {
-                {0, "DEM INV EDI", {{63, "ZZ"}}, {1}},
-                {1, "DEM INV EDI", {{65, BLANCS12}}, {1, 67}, "a blank number has no form"},
-                {2, "DEM INV EDI", {{65, "781234567   "}}, {67}},
-                {3, "DEM INV EDI", {{63, "US"}, {65, "781234567   "}}, {118}},
-                {4, "DEM INV EDI", {{63, "BE"}, {65, "BE12345     "}}, {1}},
-                {6, "DEM INV EDI", {{79, "BE"}}, {25}},
-                {7,
+                {LIGNE(C1, fVerifValAut, 1), "DEM INV EDI", {{63, "ZZ"}}, {1}},
+                {LIGNE(C2, fVerifDiffNull, 1),
+                 "DEM INV EDI",
+                 {{65, BLANCS12}},
+                 {1, 67},
+                 "a blank number has no form"},
+                {LIGNE(C2, fConform10FR, 67), "DEM INV EDI", {{65, "781234567   "}}, {67}},
+                {LIGNE(C2, fConform10FRnonECHAnon, 118),
+                 "DEM INV EDI",
+                 {{63, "US"}, {65, "781234567   "}},
+                 {118}},
+                {LIGNE(C2, fConform10FRnonECHAoui, 1),
+                 "DEM INV EDI",
+                 {{63, "BE"}, {65, "BE12345     "}},
+                 {1}},
+                {LIGNE(C4, fVerifValAut, 25), "DEM INV EDI", {{79, "BE"}}, {25}},
+                {LIGNE(C5, fVerifDiffNull, 25),
                  "DEM INV EDI",
                  {{81, BLANCS12}},
                  {25, 68, 50},
                  "a blank number has neither form nor department"},
-                {8, "DEM INV EDI", {{81, "7812345     "}}, {68}},
-                {9, "DEM INV EDI", {{81, "77123456    "}}, {50}},
-                {10, "DEM INV EDI", {{93, "10"}}, {44}},
-                {11, "EDI", {{95, "31022024"}}, {102}},
-                {12, "INV", {{95, "31022024"}}, {102}},
-                {14, "EDI", {{105, "31022024"}}, {77}},
-                {15, "EDI", {{105, "16032024"}}, {52}},
-                {16, "EDI", {{113, "240000"}}, {103}},
-                {17, "INV", {{113, "240000"}}, {103}},
-                {18, "EDI", {{119, "2"}}, {104}},
+                {LIGNE(C5, fConform8, 68), "DEM INV EDI", {{81, "7812345     "}}, {68}},
+                {LIGNE(C5, fCoherenCC, 50), "DEM INV EDI", {{81, "77123456    "}}, {50}},
+                {LIGNE(C6, fVerifValAut, 44), "DEM INV EDI", {{93, "10"}}, {44}},
+                {LIGNE(C7, pass_C7, 102), "EDI", {{95, "31022024"}}, {102}},
+                {LIGNE(C7, fDATEC, 102), "INV", {{95, "31022024"}}, {102}},
+                {LIGNE(C9, fDATEC, 77), "EDI", {{105, "31022024"}}, {77}},
+                {LIGNE(C9, fCoherenDC, 52), "EDI", {{105, "16032024"}}, {52}},
+                {LIGNE(C10, pass_C10, 103), "EDI", {{113, "240000"}}, {103}},
+                {LIGNE(C10, fHEUREC, 103), "INV", {{113, "240000"}}, {103}},
+                {LIGNE(C11, fVerifValAut, 104), "EDI", {{119, "2"}}, {104}},
             },
     });
 }

@@ -1,6 +1,9 @@
-#include "checks/utils.h"
 #include "messages/cas.h"
-#include "messages/messages.h"
+#include "vocabulaire/store.h"
+
+namespace quilvane {
+fVerif pico_fC6_1, pico_fC6_2, pico_fC6_3;
+}  // namespace quilvane
 
 using namespace essai;
 using namespace quilvane;
@@ -32,27 +35,35 @@ TEST(Pico, TouteLignePasseEtEchoue) {
         .modele = modele,
         .cas =
             {
-                {0, "CRE", {{63, "BE"}}, {27}},
-                {1, "CRE", {{65, BLANCS12}}, {27, 68, 50}, "a blank number has neither form nor department"},
-                {2, "CRE", {{65, "7812345     "}}, {68}},
-                {3, "CRE", {{65, "77123456    "}}, {50}},
-                {5, "CRE", {{79, "BE"}}, {164}},
-                {6, "CRE", {{81, BLANCS12}}, {165, 151, 50}, "a blank number has neither form nor range"},
-                {7, "CRE", {{81, "530000X0000 "}}, {151}},
-                {8, "CRE", {{81, "52999900000 "}}, {50}},
-                {9, "CRE", {{93, "00012X"}}, {48}},
-                {10, "CRE", {{93, "010001"}}, {178}},
-                {11, "CRE", {{81, "53000099999 "}}, {180}},
-                {12, "CRE", {{99, "31022024"}}, {28}},
-                {13, "CRE", {{99, "16032024"}}, {52}},
-                {14, "CRE", {{107, "AZE123X "}}, {153}},
-                {15, "CRE", {{107, "OZE123  "}}, {154}},
-                {16, "CRE", {{107, "ABE123  "}}, {155}},
-                {17, "CRE", {{107, "AZX123  "}, {119, " "}}, {156}},
-                {18, "CRE", {{107, "AZE12X  "}}, {157}},
-                {19, "CRE", {{115, "I6"}}, {166}},
-                {20, "CRE", {{117, "ZZ"}}, {152}},
-                {21, "CRE", {{119, "8"}}, {158}},
+                {LIGNE(C1, fVerifValAut, 27), "CRE", {{63, "BE"}}, {27}},
+                {LIGNE(C2, fVerifDiffNull, 27),
+                 "CRE",
+                 {{65, BLANCS12}},
+                 {27, 68, 50},
+                 "a blank number has neither form nor department"},
+                {LIGNE(C2, fConform8, 68), "CRE", {{65, "7812345     "}}, {68}},
+                {LIGNE(C2, fCoherenCC, 50), "CRE", {{65, "77123456    "}}, {50}},
+                {LIGNE(C4, fVerifValAut, 164), "CRE", {{79, "BE"}}, {164}},
+                {LIGNE(C5, fVerifDiffNull, 165),
+                 "CRE",
+                 {{81, BLANCS12}},
+                 {165, 151, 50},
+                 "a blank number has neither form nor range"},
+                {LIGNE(C5, fConform_OC_TP, 151), "CRE", {{81, "530000X0000 "}}, {151}},
+                {LIGNE(C5, fCoheren_OC_IND_M, 50), "CRE", {{81, "52999900000 "}}, {50}},
+                {LIGNE(C6, pico_fC6_1, 48), "CRE", {{93, "00012X"}}, {48}},
+                {LIGNE(C6, pico_fC6_2, 178), "CRE", {{93, "010001"}}, {178}},
+                {LIGNE(C6, pico_fC6_3, 180), "CRE", {{81, "53000099999 "}}, {180}},
+                {LIGNE(C7, fDATEC, 28), "CRE", {{99, "31022024"}}, {28}},
+                {LIGNE(C7, fCoherenDC, 52), "CRE", {{99, "16032024"}}, {52}},
+                {LIGNE(C8, fConform_OC_model1, 153), "CRE", {{107, "AZE123X "}}, {153}},
+                {LIGNE(C8, fConform_OC_model2, 154), "CRE", {{107, "OZE123  "}}, {154}},
+                {LIGNE(C8, fConform_OC_model3, 155), "CRE", {{107, "ABE123  "}}, {155}},
+                {LIGNE(C8, fConform_OC_model4, 156), "CRE", {{107, "AZX123  "}, {119, " "}}, {156}},
+                {LIGNE(C8, fConform_OC_model5, 157), "CRE", {{107, "AZE12X  "}}, {157}},
+                {LIGNE(C9, fVerifValAut, 166), "CRE", {{115, "I6"}}, {166}},
+                {LIGNE(C10, fVerifValAut, 152), "CRE", {{117, "ZZ"}}, {152}},
+                {LIGNE(C11, fConform_OC_compteur, 158), "CRE", {{119, "8"}}, {158}},
             },
     });
 }

@@ -1,6 +1,8 @@
-#include "checks/utils.h"
 #include "messages/cas.h"
-#include "messages/messages.h"
+
+namespace quilvane {
+fVerif raco_fC6;
+}  // namespace quilvane
 
 using namespace essai;
 using namespace quilvane;
@@ -25,21 +27,21 @@ TEST(Raco, TouteLignePasseEtEchoue) {
         .modele = modele,
         .cas =
             {
-                {0, "CRE INV MOD", {{63, "BE"}}, {27}},
-                {1,
+                {LIGNE(C1, fVerifValAut, 27), "CRE INV MOD", {{63, "BE"}}, {27}},
+                {LIGNE(C2, fVerifDiffNull, 27),
                  "CRE INV MOD",
                  {{65, BLANCS12}},
                  {27, 68, 50},
                  "a blank number has neither form nor department"},
-                {2, "CRE INV MOD", {{65, "7812345     "}}, {68}},
-                {3, "CRE INV MOD", {{65, "77123456    "}}, {50}},
-                {5, "CRE INV MOD", {{79, "202 "}}, {167}},
-                {6, "CRE INV MOD", {{79, "2024"}, {95, BLANCS8}}, {168}},
-                {7, "CRE INV MOD", {{83, "EFOLAX"}}, {169}},
-                {8, "CRE MOD", {{89, "12 456"}}, {170}},
-                {9, "CRE", {{95, "31022024"}}, {134}},
-                {10, "CRE", {{95, "16032024"}}, {52}},
-                {11, "CRE", {{95, "31122023"}}, {137}},
+                {LIGNE(C2, fConform8, 68), "CRE INV MOD", {{65, "7812345     "}}, {68}},
+                {LIGNE(C2, fCoherenCC, 50), "CRE INV MOD", {{65, "77123456    "}}, {50}},
+                {LIGNE(C4, fCoherenD_OC_an_1, 167), "CRE INV MOD", {{79, "202 "}}, {167}},
+                {LIGNE(C4, fCoherenD_OC_an_2, 168), "CRE INV MOD", {{79, "2024"}, {95, BLANCS8}}, {168}},
+                {LIGNE(C5, fVerifValAut, 169), "CRE INV MOD", {{83, "EFOLAX"}}, {169}},
+                {LIGNE(C6, raco_fC6, 170), "CRE MOD", {{89, "12 456"}}, {170}},
+                {LIGNE(C7, fDatRecCorr, 134), "CRE", {{95, "31022024"}}, {134}},
+                {LIGNE(C7, fDatRecCohe, 52), "CRE", {{95, "16032024"}}, {52}},
+                {LIGNE(C7, fDatRec_OC_Post, 137), "CRE", {{95, "31122023"}}, {137}},
             },
     });
 }

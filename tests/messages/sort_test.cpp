@@ -1,8 +1,13 @@
 #include <gtest/gtest.h>
 
 #include "messages/cas.h"
-#include "messages/messages.h"
 #include "support/mouvement.h"
+#include "vocabulaire/regle.h"
+
+namespace quilvane {
+fVerif sort_fC10_cre, sort_fC10_mod, sort_fC5, sort_fC8_cre, sort_fC8_mod, sort_fC9_1_cre, sort_fC9_1_mod,
+    sort_fC9_2_cre, sort_fC9_2_mod;
+}  // namespace quilvane
 
 using namespace essai;
 using namespace quilvane;
@@ -37,53 +42,53 @@ TEST(Sort, TouteLignePasseEtEchoue) {
         // clang-format off
         .cas = {
             // animal
-            {0, "CRE INV MOD ECQ", {{63, "ZZ"}}, {1}},
-            {1, "CRE INV MOD ECQ", {{65, SANS_NUMERO}}, {1, 67}, NUMERO_BLANC},
-            {1, "CRE INV MOD ECQ", {{63, "BE"}, {65, SANS_NUMERO}}, {1, 1}, NUMERO_BLANC},
-            {1, "CRE INV MOD ECQ", {{63, "US"}, {65, SANS_NUMERO}}, {1, 118}, NUMERO_BLANC},
-            {2, "CRE INV MOD ECQ", {{65, "781234567   "}}, {67}},
-            {3, "CRE INV MOD ECQ", {{63, "US"}, {65, "781234567   "}}, {118}},
-            {4, "CRE INV MOD ECQ", {{63, "BE"}, {65, "BE1234567   "}}, {1}},
+            {LIGNE(C1, fVerifValAut, 1), "CRE INV MOD ECQ", {{63, "ZZ"}}, {1}},
+            {LIGNE(C2, fVerifDiffNull, 1), "CRE INV MOD ECQ", {{65, SANS_NUMERO}}, {1, 67}, NUMERO_BLANC},
+            {LIGNE(C2, fVerifDiffNull, 1), "CRE INV MOD ECQ", {{63, "BE"}, {65, SANS_NUMERO}}, {1, 1}, NUMERO_BLANC},
+            {LIGNE(C2, fVerifDiffNull, 1), "CRE INV MOD ECQ", {{63, "US"}, {65, SANS_NUMERO}}, {1, 118}, NUMERO_BLANC},
+            {LIGNE(C2, fConform10FR, 67), "CRE INV MOD ECQ", {{65, "781234567   "}}, {67}},
+            {LIGNE(C2, fConform10FRnonECHAnon, 118), "CRE INV MOD ECQ", {{63, "US"}, {65, "781234567   "}}, {118}},
+            {LIGNE(C2, fConform10FRnonECHAoui, 1), "CRE INV MOD ECQ", {{63, "BE"}, {65, "BE1234567   "}}, {1}},
             // date and cause
-            {6, "CRE ECQ", {{79, "30022023"}}, {22}},
-            {6, "CRE ECQ", {{79, "  061998"}}, {22}},
-            {7, "MOD", {{79, "30022023"}}, {22}},
-            {7, "MOD", {{79, "  022024"}}, {22}},
-            {8, "CRE ECQ", {{79, "16032024"}, {184, SANS_DATE}}, {52}},
-            {8, "MOD", {{79, "16032024"}}, {52}},
-            {9, "CRE MOD ECQ", {{87, "X"}}, {23}},
-            {9, "CRE", {{87, "T"}}, {23}},
-            {9, "ECQ", {{87, "T"}}, {23, 23}, "expired, and a cause of creations"},
-            {10, "MOD ECQ", {{87, "S"}}, {23}},
+            {LIGNE(C4, fDATEC, 22), "CRE ECQ", {{79, "30022023"}}, {22}},
+            {LIGNE(C4, fDATEC, 22), "CRE ECQ", {{79, "  061998"}}, {22}},
+            {LIGNE(C4, fDATEP6, 22), "MOD", {{79, "30022023"}}, {22}},
+            {LIGNE(C4, fDATEP6, 22), "MOD", {{79, "  022024"}}, {22}},
+            {LIGNE(C4, fCoherenDC_tr, 52), "CRE ECQ", {{79, "16032024"}, {184, SANS_DATE}}, {52}},
+            {LIGNE(C4, fCoherenDC_tr, 52), "MOD", {{79, "16032024"}}, {52}},
+            {LIGNE(C5, fVerifValAutDate, 23), "CRE MOD ECQ", {{87, "X"}}, {23}},
+            {LIGNE(C5, fVerifValAutDate, 23), "CRE", {{87, "T"}}, {23}},
+            {LIGNE(C5, fVerifValAutDate, 23), "ECQ", {{87, "T"}}, {23, 23}, "expired, and a cause of creations"},
+            {LIGNE(C5, sort_fC5, 23), "MOD ECQ", {{87, "S"}}, {23}},
             // holding
-            {11, "CRE INV MOD ECQ", {{88, "BE"}}, {21}},
-            {12, "CRE MOD ECQ", {{90, SANS_NUMERO}}, {21, 68, 50}, NUMERO_BLANC},
-            {12, "INV", {{90, SANS_NUMERO}}, {21, 68}, NUMERO_BLANC},
-            {13, "CRE INV MOD ECQ", {{90, "7812345     "}}, {68}},
-            {14, "CRE MOD ECQ", {{90, NUMERO}}, {50}},
+            {LIGNE(C6, fVerifValAut, 21), "CRE INV MOD ECQ", {{88, "BE"}}, {21}},
+            {LIGNE(C7, fVerifDiffNull, 21), "CRE MOD ECQ", {{90, SANS_NUMERO}}, {21, 68, 50}, NUMERO_BLANC},
+            {LIGNE(C7, fVerifDiffNull, 21), "INV", {{90, SANS_NUMERO}}, {21, 68}, NUMERO_BLANC},
+            {LIGNE(C7, fConform8, 68), "CRE INV MOD ECQ", {{90, "7812345     "}}, {68}},
+            {LIGNE(C7, fCoherenCC_tr, 50), "CRE MOD ECQ", {{90, NUMERO}}, {50}},
             // other holding
-            {15, "CRE ECQ", {{102, "ZZ"}}, {24}},
-            {15, "CRE", {{87, "S"}, {102, SANS_PAYS}, {104, SANS_NUMERO}, {116, "MARCHAND"}}, {24}},
-            {16, "MOD", {{102, "ZZ"}}, {24}},
-            {17, "CRE ECQ", {{104, SANS_NUMERO}, {116, "MARCHAND"}}, {24}},
-            {17, "CRE ECQ", {{102, SANS_PAYS}}, {24}},
-            {18, "CRE ECQ", {{104, "3512345     "}}, {68}},
-            {19, "MOD", {{104, SANS_NUMERO}, {116, "MARCHAND"}}, {24}},
-            {19, "MOD", {{102, SANS_PAYS}}, {24}},
-            {20, "MOD", {{104, "3512345     "}}, {68}},
-            {21, "CRE ECQ", {{102, SANS_PAYS}, {104, SANS_NUMERO}}, {24}},
-            {22, "MOD", {{102, SANS_PAYS}, {104, SANS_NUMERO}}, {24}},
+            {LIGNE(C8, sort_fC8_cre, 24), "CRE ECQ", {{102, "ZZ"}}, {24}},
+            {LIGNE(C8, sort_fC8_cre, 24), "CRE", {{87, "S"}, {102, SANS_PAYS}, {104, SANS_NUMERO}, {116, "MARCHAND"}}, {24}},
+            {LIGNE(C8, sort_fC8_mod, 24), "MOD", {{102, "ZZ"}}, {24}},
+            {LIGNE(C9, sort_fC9_1_cre, 24), "CRE ECQ", {{104, SANS_NUMERO}, {116, "MARCHAND"}}, {24}},
+            {LIGNE(C9, sort_fC9_1_cre, 24), "CRE ECQ", {{102, SANS_PAYS}}, {24}},
+            {LIGNE(C9, sort_fC9_2_cre, 68), "CRE ECQ", {{104, "3512345     "}}, {68}},
+            {LIGNE(C9, sort_fC9_1_mod, 24), "MOD", {{104, SANS_NUMERO}, {116, "MARCHAND"}}, {24}},
+            {LIGNE(C9, sort_fC9_1_mod, 24), "MOD", {{102, SANS_PAYS}}, {24}},
+            {LIGNE(C9, sort_fC9_2_mod, 68), "MOD", {{104, "3512345     "}}, {68}},
+            {LIGNE(C10, sort_fC10_cre, 24), "CRE ECQ", {{102, SANS_PAYS}, {104, SANS_NUMERO}}, {24}},
+            {LIGNE(C10, sort_fC10_mod, 24), "MOD", {{102, SANS_PAYS}, {104, SANS_NUMERO}}, {24}},
             // second date
-            {23, "INV MOD", {{176, "31022024"}}, {58}},
-            {23, "INV MOD", {{176, SANS_DATE}}, {58}},
-            {24, "INV MOD", {{176, "16032025"}}, {52}},
+            {LIGNE(C11, fDATEP6, 58), "INV MOD", {{176, "31022024"}}, {58}},
+            {LIGNE(C11, fDATEP6, 58), "INV MOD", {{176, SANS_DATE}}, {58}},
+            {LIGNE(C11, fCoherenDC_tr2, 52), "INV MOD", {{176, "16032025"}}, {52}},
             // receipt
-            {25, "CRE ECQ", {{184, "31022024"}}, {134}},
-            {26, "CRE ECQ", {{184, "16032024"}}, {52}},
-            {27, "CRE ECQ", {{184, "31012024"}}, {137}},
+            {LIGNE(C12, fDatRecCorr, 134), "CRE ECQ", {{184, "31022024"}}, {134}},
+            {LIGNE(C12, fDatRecCohe, 52), "CRE ECQ", {{184, "16032024"}}, {52}},
+            {LIGNE(C12, fDatRecPost_tr, 137), "CRE ECQ", {{184, "31012024"}}, {137}},
         },
         // clang-format on
-        .sansEchec = {{10, "CRE", "the four letters are causes of creations"}},
+        .sansEchec = {{LIGNE(C5, sort_fC5, 23), "CRE", "the four letters are causes of creations"}},
     });
 }
 

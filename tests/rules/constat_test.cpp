@@ -6,7 +6,8 @@
 #include <cstring>
 #include <string>
 
-#include "checks/utils.h"
+#include "checks/dates.h"
+#include "checks/valautorise.h"
 #include "messages/aiguillage.h"
 #include "rules/entete.h"
 #include "rules/moteur.h"
@@ -16,13 +17,11 @@ using namespace quilvane;
 
 namespace {
 
-constexpr int AUCUN = 0;
-
-int refuser(const char*, char*, const void*, int) { return 0; }
+int refuser(const char*, char*, const liste&) { return 0; }
 
 /** A row whose check refuses everything. */
 constexpr sCorps ligne(int champ, int debut, int dernier, int erreur, fVerif* verif = refuser) {
-    return {champ, debut, dernier, 0, 0, 0, 0, 0, verif, &AUCUN, nullptr, "", erreur};
+    return {champ, debut, dernier, 0, 0, 0, 0, 0, verif, &sansListe, "", erreur};
 }
 
 std::string texte(const constat& c) {
@@ -60,7 +59,7 @@ TEST(Constat, DixErreursAuPlus) {
         EXPECT_EQ(constats[i].origine, ORIGINE_ADMISSION);
         EXPECT_EQ(constats[i].ligne, nullptr) << "only a row has one";
     }
-    viderMagasin();
+    leStore = {};
 }
 
 TEST(Constat, LeChampEstCeluiDeLaLigneOuDeCelleAuDessus) {

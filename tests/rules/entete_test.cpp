@@ -8,10 +8,14 @@
 #include <string>
 #include <vector>
 
-#include "checks/utils.h"
+#include "checks/dates.h"
+#include "checks/listes.h"
+#include "checks/valautorise.h"
 #include "rules/moteur.h"
 #include "support/champ.h"
 #include "support/vse.h"
+#include "vocabulaire/regle.h"
+#include "vocabulaire/store.h"
 
 using namespace quilvane;
 using namespace essai;
@@ -20,7 +24,7 @@ namespace {
 
 /** Error numbers that the header and footer rules give a record. */
 std::vector<int> controler(const std::string& record) {
-    viderMagasin();
+    leStore = {};
     getvseChamps(tEntete, lEntete, record.c_str(), valEnteteVSE);
     getvseChamps(tFin, lFin, record.c_str(), valFinVSE);
     int n = verifChamps(nullptr, 0, tEntete, lEntete, valEnteteVSE, nullptr, "E");
@@ -54,9 +58,9 @@ struct appel {
     bool accepte;
 };
 
-void appeler(const char* nom, fVerif* verif, const void* liste, int len, const std::vector<appel>& appels) {
+void appeler(const char* nom, fVerif* verif, const liste& sverif, const std::vector<appel>& appels) {
     for (const appel& a : appels)
-        EXPECT_EQ(accepte(verif, a.typeVSE, a.champ, liste, len), a.accepte)
+        EXPECT_EQ(accepte(verif, a.typeVSE, a.champ, sverif), a.accepte)
             << nom << " on " << a.typeVSE << " \"" << a.champ << "\"";
 }
 
@@ -72,7 +76,7 @@ TEST(Entete, LignesDansLeurOrdre) {
     struct ligne {
         int numChamp, debut, fin;
         fVerif* verif;
-        const void* liste;
+        const liste* sverif;
         const char* dependance;  // null: no other field
         int noErr;
     };
@@ -85,7 +89,7 @@ TEST(Entete, LignesDansLeurOrdre) {
             EXPECT_EQ(l.debut, a.debut) << i;
             EXPECT_EQ(l.fin, a.fin) << i;
             EXPECT_EQ(l.pfVerif, a.verif) << i;
-            EXPECT_EQ(l.sverif, a.liste) << i;
+            EXPECT_EQ(l.sverif, a.sverif) << i;
             if (a.dependance != nullptr) {
                 EXPECT_EQ(l.dependance, a.dependance) << i;
             } else {
@@ -99,27 +103,27 @@ TEST(Entete, LignesDansLeurOrdre) {
     const char* const e5 = entete(E5);
     const char* const e6 = entete(E6);
     comparer(tEntete, lEntete,
-             {{0, 1, 1, nullptr, nullptr, nullptr, 0},
-              {1, 2, 2, nullptr, nullptr, nullptr, 0},
-              {2, 3, 10, enteteE3, TEC, e6, 95},
-              {3, 11, 18, enteteE4, BDN031, e6, 96},
-              {4, 19, 21, fVerifValAut, tE5, nullptr, 84},
-              {5, 22, 25, fVerifValAut, tE6, nullptr, 85},
-              {5, 0, 0, fVerifDepE6, nullptr, e5, 86},
-              {6, 26, 26, nullptr, nullptr, nullptr, 0},
-              {7, 27, 34, enteteE8, TDC, e6, 87},
-              {8, 35, 42, enteteE9, HuitBlancs, e6, 89},
-              {9, 43, 50, enteteE10, BDN8, e6, 88},
-              {10, 51, 60, nullptr, nullptr, nullptr, 0},
-              {11, 61, 61, enteteE12, TOUQ, e6, 97},
-              {12, 62, 62, enteteE13, NOUU, e6, 98}});
+             {{0, 1, 1, nullptr, &sansListe, nullptr, 0},
+              {1, 2, 2, nullptr, &sansListe, nullptr, 0},
+              {2, 3, 10, enteteE3, &TEC, e6, 95},
+              {3, 11, 18, enteteE4, &BDN031, e6, 96},
+              {4, 19, 21, fVerifValAut, &tE5, nullptr, 84},
+              {5, 22, 25, fVerifValAut, &tE6, nullptr, 85},
+              {5, 0, 0, fVerifDepE6, &sansListe, e5, 86},
+              {6, 26, 26, nullptr, &sansListe, nullptr, 0},
+              {7, 27, 34, enteteE8, &TDC, e6, 87},
+              {8, 35, 42, enteteE9, &HuitBlancs, e6, 89},
+              {9, 43, 50, enteteE10, &BDN8, e6, 88},
+              {10, 51, 60, nullptr, &sansListe, nullptr, 0},
+              {11, 61, 61, enteteE12, &TOUQ, e6, 97},
+              {12, 62, 62, enteteE13, &NOUU, e6, 98}});
     comparer(tFin, lFin,
-             {{0, 231, 238, fDATEC, nullptr, nullptr, 90},
-              {1, 239, 244, fHEUREC, nullptr, nullptr, 91},
-              {1, 0, 0, nullptr, nullptr, nullptr, 0},
-              {2, 245, 247, finF3, versionVSE, e6, 93},
-              {3, 248, 255, nullptr, nullptr, nullptr, 0},
-              {4, 256, 256, fVerifValAut, ET1, nullptr, 94}});
+             {{0, 231, 238, fDATEC, &sansListe, nullptr, 90},
+              {1, 239, 244, fHEUREC, &sansListe, nullptr, 91},
+              {1, 0, 0, nullptr, &sansListe, nullptr, 0},
+              {2, 245, 247, finF3, &versionVSE, e6, 93},
+              {3, 248, 255, nullptr, &sansListe, nullptr, 0},
+              {4, 256, 256, fVerifValAut, &ET1, nullptr, 94}});
 }
 
 TEST(Entete, LesLignesSansColonnesNeDecalentRien) {
@@ -228,12 +232,12 @@ TEST(Entete, LesQuatreCodesSpeciauxPassentLesListes) {
         essayer(acti(), {{{{27, code}, {43, code}}, {}}});
     }
     // "NORMABEV" is an emitter by the list test only.
-    EXPECT_TRUE(accepte(enteteE3, "FICH", "NORMABEV", TEC, LenTEC));
-    EXPECT_FALSE(accepte(enteteE3, "FICH", "NORMABEX", TEC, LenTEC));
+    EXPECT_TRUE(accepte(enteteE3, "FICH", "NORMABEV", TEC));
+    EXPECT_FALSE(accepte(enteteE3, "FICH", "NORMABEX", TEC));
 }
 
 TEST(Entete, E3Emetteur) {
-    appeler("E3", enteteE3, TEC, LenTEC,
+    appeler("E3", enteteE3, TEC,
             {{"ACTI", "ZZZZZZZZ", true},  {"FIC", "ZZZZZZZZ", true},   {"FICHE", "ZZZZZZZZ", true},
              {"", "ZZZZZZZZ", true},      {"FICH", "ZZZZZZZZ", false}, {"FICH", "OVINFOS ", true},
              {"FICH", "OVINFOSX", false}, {"FICH", "OFFICE12", true},  {"FICH", "ONICABXY", true},
@@ -251,15 +255,15 @@ TEST(Entete, E3Emetteur) {
     for (int n = 0; n < 1000; ++n) {
         const std::string ipg = codeDep(n);
         const std::string ars = ipg.substr(0, 3) + "ARS  ";
-        EXPECT_EQ(accepte(enteteE3, "FICH", ipg, TEC, LenTEC), emetteurs.count(ipg) == 1) << ipg;
-        EXPECT_EQ(accepte(enteteE3, "FICH", ars, TEC, LenTEC), emetteurs.count(ars) == 1) << ars;
+        EXPECT_EQ(accepte(enteteE3, "FICH", ipg, TEC), emetteurs.count(ipg) == 1) << ipg;
+        EXPECT_EQ(accepte(enteteE3, "FICH", ars, TEC), emetteurs.count(ars) == 1) << ars;
     }
-    EXPECT_TRUE(accepte(enteteE3, "FICH", "02BIPG  ", TEC, LenTEC));
-    EXPECT_FALSE(accepte(enteteE3, "FICH", "02AIPG  ", TEC, LenTEC));
+    EXPECT_TRUE(accepte(enteteE3, "FICH", "02BIPG  ", TEC));
+    EXPECT_FALSE(accepte(enteteE3, "FICH", "02AIPG  ", TEC));
 }
 
 TEST(Entete, E8CorpsDepartemental) {
-    appeler("E8", enteteE8, TDC, LenTDC,
+    appeler("E8", enteteE8, TDC,
             {{"FICH", "ZZZZZZZZ", true},  {"ACTI", "ZZZZZZZZ", false}, {"FICHE", "ZZZZZZZZ", false},
              {"ACTI", "POINTFOC", true},  {"ACTI", "NORMABEV", true},  {"ACTI", "OVINFOS ", true},
              {"ACTI", "OVINFOSX", false}, {"ACTI", "POINTFOX", false}, {"ACTI", "OFFICE12", true},
@@ -271,11 +275,11 @@ TEST(Entete, E8CorpsDepartemental) {
     int acceptes = 2;  // 02A and 02B
     for (int n = 0; n < 1000; ++n) {
         const bool existe = (n >= 1 && n <= 95 && n != 20) || (n >= 971 && n <= 974) || n == 976;
-        EXPECT_EQ(accepte(enteteE8, "ACTI", codeDep(n), TDC, LenTDC), existe) << n;
+        EXPECT_EQ(accepte(enteteE8, "ACTI", codeDep(n), TDC), existe) << n;
         acceptes += existe ? 1 : 0;
     }
     EXPECT_EQ(acceptes, 101);
-    EXPECT_EQ(LenTDC, 101);
+    EXPECT_EQ(TDC.nombre(), 101);
 }
 
 TEST(Entete, E9SansBlancSaufOrganismeNational) {
@@ -309,20 +313,20 @@ TEST(Entete, E9SansBlancSaufOrganismeNational) {
     };
     for (const casE9& c : liste) {
         remplir(valEnteteVSE[E8], c.e8);
-        EXPECT_EQ(accepte(enteteE9, c.typeVSE, c.champ, HuitBlancs, LenHuitBlancs), c.accepte)
+        EXPECT_EQ(accepte(enteteE9, c.typeVSE, c.champ, HuitBlancs), c.accepte)
             << c.typeVSE << " E8 \"" << c.e8 << "\" E9 \"" << c.champ << "\"";
     }
 }
 
 TEST(Entete, ReglesDUnSeulCote) {
-    appeler("E4", enteteE4, BDN031, LenBDN031,
+    appeler("E4", enteteE4, BDN031,
             {{"FICH", "031BDN  ", true},
              {"FICH", "031BDN", false},
              {"FICH", "BDN     ", false},
              {"FICH", "", false},
              {"ACTI", "BDN     ", true},
              {"FICHE", "", true}});
-    appeler("E10", enteteE10, BDN8, LenBDN8,
+    appeler("E10", enteteE10, BDN8,
             {{"ACTI", "BDN     ", true},
              {"ACTI", "BDN", false},
              {"ACTI", "031BDN  ", false},
@@ -330,19 +334,19 @@ TEST(Entete, ReglesDUnSeulCote) {
              {"FICH", "", true},
              {"FICH", "ZZZZZZZZ", true},
              {"FIC", "", false}});
-    appeler("E12", enteteE12, TOUQ, LenTOUQ,
+    appeler("E12", enteteE12, TOUQ,
             {{"FICH", "3", true},
              {"FICH", "4", true},
              {"FICH", "2", false},
              {"FICH", "", false},
              {"ACTI", "2", true}});
-    appeler("E13", enteteE13, NOUU, LenNOUU,
+    appeler("E13", enteteE13, NOUU,
             {{"FICH", "N", true},
              {"FICH", "U", true},
              {"FICH", "O", false},
              {"FICH", "", false},
              {"ACTI", "O", true}});
-    appeler("F3", finF3, versionVSE, LenversionVSE,
+    appeler("F3", finF3, versionVSE,
             {{"FICH", "025", true},
              {"FICH", "024", false},
              {"FICH", "02", false},
@@ -403,7 +407,9 @@ TEST(Entete, TypesPermisParGenre) {
             EXPECT_FALSE(accepte(fVerifDepE6, genre, m.typeVSE)) << genre << " " << m.typeVSE;
     }
     EXPECT_EQ(permis, 24 + 5 + 20 + 1 + 19 + 1);
-    EXPECT_EQ(LentE6CRE + LentE6DEM + LentE6INV + LentE6EDI + LentE6MOD + LentE6INF, permis);
+    EXPECT_EQ(tE6CRE.nombre() + tE6DEM.nombre() + tE6INV.nombre() + tE6EDI.nombre() + tE6MOD.nombre() +
+                  tE6INF.nombre(),
+              permis);
     for (const char* genre : {"CRE", "DEM", "INV", "EDI", "MOD", "INF"})
         EXPECT_TRUE(accepte(fVerifDepE6, genre, "NORMABEV")) << genre;
 }

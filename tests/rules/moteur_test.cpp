@@ -10,11 +10,13 @@
 #include <string>
 #include <vector>
 
-#include "messages/messages.h"
+#include "messages/aiguillage.h"
 #include "rules/constat.h"
 #include "rules/entete.h"
 #include "support/journal.h"
 #include "support/vse.h"
+#include "vocabulaire/regle.h"
+#include "vocabulaire/store.h"
 
 using namespace quilvane;
 
@@ -23,32 +25,28 @@ namespace {
 /** What the check was called with, call by call. */
 struct appel {
     std::string dependance, champ;
-    const void* liste;
-    int lenListe;
+    const liste* sverif;
     bool operator==(const appel&) const = default;
 };
 std::vector<appel> appels;
 
-int noter(const char* dependance, char* champ, const void* sverif, int lenSverif, int verdict) {
-    appels.push_back({dependance, champ, sverif, lenSverif});
+int noter(const char* dependance, char* champ, const liste& sverif, int verdict) {
+    appels.push_back({dependance, champ, &sverif});
     return verdict;
 }
-int accepter(const char* d, char* c, const void* s, int n) { return noter(d, c, s, n, 1); }
-int accepterAutrement(const char* d, char* c, const void* s, int n) { return noter(d, c, s, n, -7); }
-int refuser(const char* d, char* c, const void* s, int n) { return noter(d, c, s, n, 0); }
-int reecrire(const char* d, char* c, const void* s, int n) {
-    noter(d, c, s, n, 0);
+int accepter(const char* d, char* c, const liste& s) { return noter(d, c, s, 1); }
+int accepterAutrement(const char* d, char* c, const liste& s) { return noter(d, c, s, -7); }
+int refuser(const char* d, char* c, const liste& s) { return noter(d, c, s, 0); }
+int reecrire(const char* d, char* c, const liste& s) {
+    noter(d, c, s, 0);
     c[0] = '#';
     return 0;
 }
 
-constexpr int TROIS = 3;
-constexpr int AUCUN = 0;
-
 /** A row that is the same for every kind. */
 constexpr sCorps ligne(int champ, int debut, int dernier, fVerif* verif, int erreur, int presence = 0) {
-    return {champ,    debut, dernier, presence, presence, presence, presence,
-            presence, verif, &AUCUN,  nullptr,  "",       erreur};
+    return {champ,    debut,    dernier, presence,   presence, presence,
+            presence, presence, verif,   &sansListe, "",       erreur};
 }
 
 /** What a walk over a table gave. */
@@ -265,15 +263,14 @@ TEST_F(Moteur, UnGenreInconnuInterditToutChampVerifie) {
 // ------------------------------------------------------- slots and checks
 
 TEST_F(Moteur, LaVerificationRecoitCeQueLaLigneNomme) {
-    static const tValAutorise LISTE[] = {"A", "B", "C"};
+    const liste LISTE = {{"A", "B", "C"}};
     sCorps l = ligne(0, 1, 2, accepter, 5);
-    l.sverif = LISTE;
-    l.plenSverif = &TROIS;
+    l.sverif = &LISTE;
     l.dependance = slots[7].valeur;
     std::strcpy(slots[7].valeur, "autre");
     std::strcpy(slots[0].valeur, " v ");
     verifier({l, ligne(1, 3, 3, accepter, 6)}, "CRE");
-    EXPECT_EQ(appels, (std::vector<appel>{{"autre", " v ", LISTE, 3}, {"", "", nullptr, 0}}));
+    EXPECT_EQ(appels, (std::vector<appel>{{"autre", " v ", &LISTE}, {"", "", &sansListe}}));
 }
 
 TEST_F(Moteur, LesLignesEnPlusPartagentLEmplacement) {

@@ -24,7 +24,8 @@ resultat passer(const dossier& d, const std::vector<std::string>& arguments) {
 /** A core of one source for each room, all in order; `chemin` then holds `texte`. */
 resultat avec(const std::string& chemin, const std::string& texte) {
     const dossier d;
-    for (const char* salle : {"calendar", "checks", "rules", "messages", "controle", "driver"}) {
+    for (const char* salle :
+         {"vocabulaire", "calendar", "checks", "rules", "messages", "controle", "driver"}) {
         d.creerDossier(salle);
         d.ecrire(std::string(salle) + "/a.h", "#include <cstring>\n");
     }
@@ -43,9 +44,9 @@ TEST(SansFichiers, CeNoyau) {
 
 TEST(SansFichiers, CeQuiEstPermis) {
     const std::vector<std::pair<std::string, std::string>> cas = {
-        {"checks/b.cpp", "#include \"calendar/datecalc.h\"\n#include \"rules/pack.h\"\n"},
-        {"rules/b.cpp", "#include \"checks/lecture.h\"\n#include \"rules/pack.h\"\n"},
-        {"messages/b.h", "#include \"rules/entete.h\"\n#include \"checks/utils.h\"\n"},
+        {"checks/b.cpp", "#include \"calendar/datecalc.h\"\n#include \"vocabulaire/pack.h\"\n"},
+        {"rules/b.cpp", "#include \"checks/lecture.h\"\n#include \"vocabulaire/pack.h\"\n"},
+        {"messages/b.h", "#include \"rules/entete.h\"\n#include \"checks/dates.h\"\n"},
         {"controle/b.cpp", "#include \"messages/aiguillage.h\"\n"},
         {"driver/b.cpp", "#include <cstdio>\n#include \"controle/lot.h\"\nvoid f() { std::puts(\"\"); }\n"},
         // Words are no calls, and neither comments nor texts are code.
@@ -80,8 +81,8 @@ TEST(SansFichiers, CeQuiEstRefuse) {
         {"messages/b.cpp", "remove(a);\n", "1: calls remove"},
         {"rules/b.cpp", "if (unlink(a)) return;\n", "1: calls unlink"},
         {"rules/b.cpp", "std::exit(1);\n", "1: calls exit"},
-        {"calendar/b.cpp", "#include \"rules/pack.h\"\n",
-         "1: includes rules/pack.h, which the room calendar may not"},
+        {"calendar/b.cpp", "#include \"vocabulaire/pack.h\"\n",
+         "1: includes vocabulaire/pack.h, which the room calendar may not"},
         {"checks/b.cpp", "#include \"rules/moteur.h\"\n",
          "1: includes rules/moteur.h, which the room checks may not"},
         {"checks/b.h", "#include \"messages/messages.h\"\n",
@@ -110,5 +111,5 @@ TEST(SansFichiers, UnDossierSansSources) {
     const dossier d;
     const resultat r = passer(d, {"."});
     EXPECT_EQ(r.statut, 1);
-    EXPECT_TRUE(r.erreur.starts_with("./calendar: no sources\n")) << r.erreur;
+    EXPECT_TRUE(r.erreur.starts_with("./vocabulaire: no sources\n")) << r.erreur;
 }

@@ -8,7 +8,9 @@
 #include <string>
 #include <vector>
 
-#include "rules/pack.h"
+#include "checks/valautorise.h"
+#include "vocabulaire/regle.h"
+#include "vocabulaire/store.h"
 
 namespace essai {
 
@@ -18,10 +20,10 @@ namespace essai {
  * receives the field as the check left it.
  */
 inline bool accepte(quilvane::fVerif* verif, const std::string& dependance, const std::string& champ,
-                    const void* liste = nullptr, int lenListe = 0, std::string* apres = nullptr) {
+                    const quilvane::liste& sverif = quilvane::sansListe, std::string* apres = nullptr) {
     std::vector<char> c(champ.c_str(), champ.c_str() + champ.size() + 1);
     const std::vector<char> d(dependance.c_str(), dependance.c_str() + dependance.size() + 1);
-    const int verdict = verif(d.data(), c.data(), liste, lenListe);
+    const int verdict = verif(d.data(), c.data(), sverif);
     if (apres != nullptr) *apres = c.data();
     return verdict != 0;
 }

@@ -3,8 +3,9 @@
 #include <algorithm>
 
 #include "catalogue/exemples.h"
-#include "rules/pack.h"
+#include "checks/valautorise.h"
 #include "support/vse.h"
+#include "vocabulaire/store.h"
 
 namespace essai {
 
@@ -12,10 +13,11 @@ namespace {
 
 /** A number of the department's ovine and caprine range. */
 std::string indicatif(const std::string& dep, hasard& h) {
-    for (int i = 0; i < quilvane::LenIND_M; i += 3) {
-        if (std::string(quilvane::IND_M[i].valeur) != "0" + dep + "IPG") continue;
-        const int bas = std::stoi(quilvane::IND_M[i + 1].valeur);
-        const int haut = std::stoi(quilvane::IND_M[i + 2].valeur);
+    for (int i = 0; i < quilvane::IND_M.lignes(3); ++i) {
+        const quilvane::tValAutorise* const plage = quilvane::IND_M.ligne(i);
+        if (std::string(plage[0].valeur) != "0" + dep + "IPG") continue;
+        const int bas = std::stoi(plage[1].valeur);
+        const int haut = std::stoi(plage[2].valeur);
         return std::to_string(bas + h.jusqua(haut - bas + 1));
     }
     return "";

@@ -32,6 +32,29 @@ int presence(const sCorps& ligne, const std::string& genre) {
     return -1;
 }
 
+std::string phrase(const std::string& type, const nomDeLigne& l) {
+    return type + " C" + std::to_string(l.champ + 1) + " " + l.nomVerif + " " + std::to_string(l.erreur);
+}
+
+/** The one row of that name that runs in the kind, -1 after a failure that says
+ *  what is wrong with the name. */
+int rangDe(const std::string& type, const sAiguillage& route, const nomDeLigne& nom,
+           const std::string& genre) {
+    int trouve = -1;
+    int nombre = 0;
+    for (int i = 0; i < *route.pLenTabVerif; ++i) {
+        const sCorps& l = route.tabVerif[i];
+        if (l.numChamp != nom.champ || l.pfVerif != nom.verif || l.noErr != nom.erreur) continue;
+        if (nom.sverif != nullptr && l.sverif != nom.sverif) continue;
+        if (presence(l, genre) != 0) continue;
+        trouve = i;
+        ++nombre;
+    }
+    EXPECT_EQ(nombre, 1) << phrase(type, nom) << ": " << nombre << " such rows run in " << genre
+                         << (nombre > 1 ? "; name the list too" : "");
+    return nombre == 1 ? trouve : -1;
+}
+
 }  // namespace
 
 std::vector<int> codesDe(const std::string& record, const std::string& emetteur) {
@@ -52,36 +75,31 @@ void prouverLignes(const preuveType& p) {
 
     std::set<std::pair<int, std::string>> couvertes;
     for (const casLigne& c : p.cas) {
-        ASSERT_TRUE(c.ligne >= 0 && c.ligne < lignes) << p.type << " row " << c.ligne;
-        const sCorps& ligne = table[c.ligne];
-        EXPECT_NE(std::find(c.codes.begin(), c.codes.end(), ligne.noErr), c.codes.end())
-            << p.type << " row " << c.ligne << " has error " << ligne.noErr;
-        EXPECT_TRUE(c.codes.size() == 1 || !c.raison.empty())
-            << p.type << " row " << c.ligne << " needs a reason";
+        const std::string nom = phrase(p.type, c.ligne);
+        EXPECT_NE(std::find(c.codes.begin(), c.codes.end(), c.ligne.erreur), c.codes.end())
+            << nom << ": its own error is not among those of the case";
+        EXPECT_TRUE(c.codes.size() == 1 || !c.raison.empty()) << nom << ": several errors need a reason";
         for (const std::string& genre : mots(c.genres)) {
-            EXPECT_EQ(presence(ligne, genre), 0)
-                << p.type << " row " << c.ligne << " does not run in " << genre;
+            const int rang = rangDe(p.type, tAiguillage[route], c.ligne, genre);
             std::string record = p.modele(genre);
             for (const pose& q : c.poses)
                 poser(record, q.col, q.texte);
-            EXPECT_EQ(codesDe(record, p.emetteur), c.codes) << p.type << " " << genre << " row " << c.ligne;
-            couvertes.insert({c.ligne, genre});
+            EXPECT_EQ(codesDe(record, p.emetteur), c.codes) << nom << " in " << genre;
+            couvertes.insert({rang, genre});
         }
     }
     for (const ligneSansEchec& s : p.sansEchec) {
-        EXPECT_FALSE(s.raison.empty());
-        for (const std::string& genre : mots(s.genres)) {
-            EXPECT_TRUE(couvertes.insert({s.ligne, genre}).second)
-                << p.type << " row " << s.ligne << " " << genre << " has a case after all";
-        }
+        EXPECT_FALSE(s.raison.empty()) << phrase(p.type, s.ligne) << ": no reason is given";
+        for (const std::string& genre : mots(s.genres))
+            EXPECT_TRUE(couvertes.insert({rangDe(p.type, tAiguillage[route], s.ligne, genre), genre}).second)
+                << phrase(p.type, s.ligne) << " has a failing record in " << genre << " after all";
     }
     for (int i = 0; i < lignes; ++i) {
         if (table[i].pfVerif == nullptr) continue;
-        for (const std::string& genre : mots(p.genres)) {
+        for (const std::string& genre : mots(p.genres))
             EXPECT_TRUE(presence(table[i], genre) != 0 || couvertes.count({i, genre}) == 1)
-                << p.type << " row " << i << " (C" << table[i].numChamp + 1 << ", error " << table[i].noErr
-                << ") has no failing record in " << genre;
-        }
+                << p.type << " C" << table[i].numChamp + 1 << ", error " << table[i].noErr
+                << ": its row has no failing record in " << genre;
     }
 }
 

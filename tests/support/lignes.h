@@ -11,13 +11,26 @@
 #include <vector>
 
 #include "support/vse.h"
+#include "vocabulaire/regle.h"
 
 namespace essai {
+
+/** A rule row of a body table by its field, its check and its error number; by
+ *  its list as well when two such rows run in one kind. */
+struct nomDeLigne {
+    int champ;  // from 0
+    quilvane::fVerif* verif;
+    const char* nomVerif;
+    int erreur;
+    const quilvane::liste* sverif = nullptr;  // null: any
+};
+#define LIGNE(champ, verif, erreur, ...) \
+    essai::nomDeLigne { quilvane::champ, quilvane::verif, #verif, erreur __VA_OPT__(, ) __VA_ARGS__ }
 
 /** A record wrong in one field: what to change in the correct record of a kind
  *  and the exact error numbers, in order, that must come of it. */
 struct casLigne {
-    int ligne;                // row of the table, from 0
+    nomDeLigne ligne;
     std::string genres;       // transaction kinds, blank-separated: "CRE INV MOD"
     std::vector<pose> poses;  // columns to change
     std::vector<int> codes;   // all errors of the record
@@ -26,7 +39,7 @@ struct casLigne {
 
 /** A row that no record can make fail in the kinds named. */
 struct ligneSansEchec {
-    int ligne;
+    nomDeLigne ligne;
     std::string genres;
     std::string raison;
 };

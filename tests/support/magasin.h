@@ -14,8 +14,9 @@
 #include <string>
 #include <vector>
 
-#include "rules/pack.h"
 #include "support/champ.h"
+#include "vocabulaire/regle.h"
+#include "vocabulaire/store.h"
 
 namespace essai {
 
@@ -38,15 +39,14 @@ struct texteLu {
 struct sujet {
     const char* nom;
     quilvane::fVerif* verif;
-    const quilvane::tValAutorise* liste = nullptr;
-    int len = 0;
+    const quilvane::liste* sverif = &quilvane::sansListe;
 
     /** Each case gets its verdict, leaves its field as stated and the store as
      *  it was, whatever the store holds beside `lus`. */
     void prouver(const std::vector<casChamp>& cas, const std::vector<texteLu>& lus = {}) const;
 };
 #define SUJET(f, ...) \
-    essai::sujet { #f, quilvane::f __VA_OPT__(, ) __VA_ARGS__ }
+    essai::sujet { #f, quilvane::f __VA_OPT__(, &) __VA_ARGS__ }
 
 /** A text of the store with its room, terminator included. */
 struct zone {
@@ -135,7 +135,7 @@ inline void sujet::prouver(const std::vector<casChamp>& cas, const std::vector<t
                        testing::PrintToString(c.dependance) + " lus" + lu + " autour '" + autour + "'";
             };
             std::string apres;
-            EXPECT_EQ(accepte(verif, c.dependance, c.champ, liste, len, &apres), c.accepte) << ici();
+            EXPECT_EQ(accepte(verif, c.dependance, c.champ, *sverif, &apres), c.accepte) << ici();
             EXPECT_EQ(apres, c.apres.value_or(c.champ)) << ici();
             EXPECT_TRUE(etatMagasin() == avant) << ici() << ": the store has changed";
         }

@@ -8,7 +8,6 @@
 #include <vector>
 
 #include "messages/aiguillage.h"
-#include "messages/messages.h"
 #include "rules/entete.h"
 
 namespace essai {

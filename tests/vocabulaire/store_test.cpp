@@ -1,4 +1,7 @@
-#include "rules/pack.h"
+#include "support/magasin.h"
+#include "support/vse.h"
+#include "vocabulaire/regle.h"
+#include "vocabulaire/store.h"
 
 #include <gtest/gtest.h>
 
@@ -6,8 +9,6 @@
 #include <iterator>
 #include <string>
 
-#include "support/magasin.h"
-#include "support/vse.h"
 
 using namespace quilvane;
 using namespace essai;
@@ -114,7 +115,7 @@ TEST(Pack, ViderMagasinNeGardeQueLeJetonDuNom) {
     remplirMagasin("ancien");
     std::fill(std::begin(codeErreur), std::end(codeErreur), 31);
     nbErreur = codCaract = codLong = 2;
-    viderMagasin();
+    leStore = {};
     EXPECT_STREQ(bufC11, "ancien") << "it belongs to the run, not to the file";
     std::memset(bufC11, 0, sizeof bufC11);
     EXPECT_TRUE(etatMagasin() == ETAT_INITIAL);

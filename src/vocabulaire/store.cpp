@@ -1,42 +1,11 @@
-/**
- * pack - the field store and the state that the engine shares with the record
- * stream and the checks.
- */
-#include "rules/pack.h"
+#include "vocabulaire/store.h"
 
 #include <cstring>
 
 namespace quilvane {
 
-constinit valeurVSE valEnteteVSE[13] = {};
-constinit valeurVSE valCorpsVSE[100] = {};
-constinit valeurVSE valFinVSE[5] = {};
-constinit valeurVSE valFichEnteteVSE[13] = {};
-constinit valeurVSE valFichCorpsVSE[9] = {};
-constinit valeurVSE valFichFinVSE[5] = {};
-
-constinit char xdebug[TAILLE_XDEBUG] = {};
-constinit int codeErreur[MAX_ERREURS + 1] = {};
-constinit int nbErreur = 0;
-constinit int codCaract = 0;
-constinit int codLong = 0;
+constinit store leStore = {};
 constinit char bufC11[32] = {};
-constinit vseCorps cp = {};
-
-void viderMagasin() {
-    std::memset(valEnteteVSE, 0, sizeof valEnteteVSE);
-    std::memset(valCorpsVSE, 0, sizeof valCorpsVSE);
-    std::memset(valFinVSE, 0, sizeof valFinVSE);
-    std::memset(valFichEnteteVSE, 0, sizeof valFichEnteteVSE);
-    std::memset(valFichCorpsVSE, 0, sizeof valFichCorpsVSE);
-    std::memset(valFichFinVSE, 0, sizeof valFichFinVSE);
-    std::memset(codeErreur, 0, sizeof codeErreur);
-    std::memset(&cp, 0, sizeof cp);
-    std::memset(xdebug, 0, sizeof xdebug);
-    nbErreur = 0;
-    codCaract = 0;
-    codLong = 0;
-}
 
 void retenirVSE(const char* tampon) {
     const std::size_t longueur = strnlen(tampon, TAILLE_XDEBUG - 1);
