@@ -43,7 +43,7 @@
     function ficheDeTable(table, champ, catalogue, textes) {
         const cle = table.cle ? [table.cle.pays, table.cle.numero].filter(Boolean).join(" + ") : "";
         const lignes = table.champs.map((c) => el("tr", { id: `fiche-${c.champ}`, class: c.champ === champ ? "vise" : null },
-            el("th", { scope: "row" }, c.champ, el("span.colonnes", null, c.colonnes.join("–"))),
+            el("th", { scope: "row" }, c.champ, el("span.colonnes", null, Q.plage(c.colonnes))),
             el("td", null, Q.visible(c.libelle)),
             el("td", null, (c.regles || []).length
                 ? el("ul", null, c.regles.map((r) => phraseDeRegle(r, catalogue, textes)))

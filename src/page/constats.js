@@ -19,14 +19,14 @@
             el("td.c-type", { role: "cell" }, el("b", null, Q.donnee(c.type)), " ", Q.donnee(c.genre),
                 (c.cle || "").trim() ? el("span.cle", null, Q.donnee(Q.abrege(c.cle.trim(), 40))) : null),
             el("td.c-champ", { role: "cell" },
-                el("span.libelle", null, Q.visible(m.libelle || c.champ || "–")), " ",
-                c.champ ? el("span.detail", null, [c.champ, c.colonnes ? c.colonnes.join("–") : null].filter(Boolean).join(" · ")) : null, " ",
+                el("span.libelle", null, Q.visible(Q.abrege(m.libelle || c.champ || "–", 80))), " ",
+                c.champ ? el("span.detail", null, [c.champ, c.colonnes ? Q.plage(c.colonnes) : null].filter(Boolean).join(" · ")) : null, " ",
                 c.champ ? el("span.recue", null, Q.valeur(c.valeur, textes, 60)) : null),
             el("td.c-point", { role: "cell" },
-                el("span.titre", null, suite ? el("span.fleche", { title: textes.decoule }, "↳ ") : null, Q.visible(m.titre)),
+                el("span.titre", null, suite ? el("span.fleche", { title: textes.decoule }, "↳ ") : null, Q.visible(Q.abrege(m.titre, 120))),
                 " ", el("span.numero", null, String(c.numero)),
                 m.message && m.message !== m.titre ? el("span.message", { lang: m.langue }, Q.visible(Q.abrege(m.message, 300))) : null,
-                m.remede ? el("span.remede", null, Q.visible(m.remede)) : null));
+                m.remede ? el("span.remede", null, Q.visible(Q.abrege(m.remede, 400))) : null));
     }
 
     const choix = (id, libelle, options) => el("label", { for: id }, libelle, el(`select#${id}`, null,
@@ -86,7 +86,7 @@
 
         function filtrer() {
             const debut = performance.now();
-            trouves = Q.filtrer(fichier, filtre);
+            trouves = Q.filtrer(fichier, filtre, mots);
             montres = 0;
             corps.replaceChildren();
             remplir(TRANCHE);

@@ -87,29 +87,31 @@
     };
 
     /**
-     * The words of a finding for a reader: its own ones, or, when the report is
-     * in another language, the catalogue's title, remedy and label. The row's
-     * sentence with its values exists in the report's language only.
+     * The words of a finding for a reader: its own ones, or the catalogue's
+     * title, remedy and label when the finding has none (a long report leaves
+     * them out) or when the report is in another language. The row's sentence
+     * with its values exists in the report's language only.
      */
     Q.motsDe = function (constat, langueDuRapport, langue, catalogue) {
-        if (langue !== langueDuRapport && catalogue && catalogue.langue === langue) {
-            const erreur = catalogue.erreurs.get(String(constat.numero));
-            const champ = champDuCatalogue(catalogue, constat);
-            return {
-                titre: (erreur && erreur.titre) || constat.titre, remede: (erreur && erreur.remede) || constat.remede,
-                libelle: (champ && champ.libelle) || constat.libelle, message: constat.message, langue: langueDuRapport,
-            };
-        }
-        return { titre: constat.titre, remede: constat.remede, libelle: constat.libelle, message: constat.message, langue: null };
+        const autre = langue !== langueDuRapport;
+        const propres = { titre: constat.titre || "", remede: constat.remede || "", libelle: constat.libelle || "",
+            message: constat.message || "", langue: autre ? langueDuRapport : null };
+        if (!catalogue || (autre && catalogue.langue !== langue)) return propres;
+        if (!autre && propres.titre && propres.remede && propres.libelle) return propres;
+        const erreur = catalogue.erreurs.get(String(constat.numero)) || {};
+        const champ = champDuCatalogue(catalogue, constat) || {};
+        const choisir = (propre, du) => (autre ? du || propre : propre || du || "");
+        return { ...propres, titre: choisir(propres.titre, erreur.titre), remede: choisir(propres.remede, erreur.remede),
+            libelle: choisir(propres.libelle, champ.libelle) };
     };
 
-    const texteCherche = (c) => Q.plat(
-        `${c.ligne} ${c.type} ${c.genre} ${c.cle} ${c.champ || ""} ${c.libelle || ""} ${c.valeur} ${c.numero} ${c.code} ${c.titre} ${c.message}`);
+    const texteCherche = (c, m) => Q.plat(
+        `${c.ligne} ${c.type} ${c.genre} ${c.cle} ${c.champ || ""} ${m.libelle} ${c.valeur} ${c.numero} ${c.code} ${m.titre} ${m.message}`);
 
-    /** Makes the index up to `jusque`; it is made in slices while the reader reads. */
-    Q.indexer = function (fichier, jusque = fichier.constats.length) {
+    /** Makes the index up to `jusque`, in the words of the reader; it is made in slices while the reader reads. */
+    Q.indexer = function (fichier, mots, jusque = fichier.constats.length) {
         for (let i = fichier.index.length; i < jusque && i < fichier.constats.length; i++)
-            fichier.index.push(texteCherche(fichier.constats[i]));
+            fichier.index.push(texteCherche(fichier.constats[i], mots(fichier.constats[i])));
         return fichier.index.length === fichier.constats.length;
     };
 
@@ -118,9 +120,9 @@
      * `mots` (all must occur), `numero`, `type` (texts, "" for all) and
      * `causes` (leave out what follows from another).
      */
-    Q.filtrer = function (fichier, filtre) {
+    Q.filtrer = function (fichier, filtre, motsDuConstat) {
         const mots = Q.plat(filtre.mots).split(/\s+/).filter(Boolean);
-        if (mots.length) Q.indexer(fichier);
+        if (mots.length) Q.indexer(fichier, motsDuConstat);
         const trouves = [];
         for (let i = 0; i < fichier.constats.length; i++) {
             const c = fichier.constats[i];

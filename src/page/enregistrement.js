@@ -14,10 +14,10 @@
     };
 
     const nomDuChamp = (constat, mots) => (mots.libelle
-        ? Q.visible(mots.libelle) : constat.champ ? constat.champ : Q.visible(constat.type));
+        ? Q.visible(Q.abrege(mots.libelle, 120)) : constat.champ ? constat.champ : Q.visible(constat.type));
 
     function details(constat, contexte) {
-        const { textes, catalogue, fichier, mots, rangs } = contexte;
+        const { textes, fichier, mots, rangs } = contexte;
         const lignes = [];
         const ajouter = (terme, contenu) => lignes.push(el("div", null, el("dt", null, terme), el("dd", null, contenu)));
         if (constat.valeur !== null && constat.valeur !== undefined && constat.champ)
@@ -84,7 +84,7 @@
                     el("h3#titre-enregistrement", { tabindex: "-1" }, textes.ligne(ligne), " ",
                         el("span.type", null, Q.donnee(premier.type), premier.genre ? [" ", Q.donnee(premier.genre)] : null)),
                     el("p.detail", null,
-                        (premier.cle || "").trim() ? [`${textes.cle} `, el("code", null, Q.donnee(premier.cle.trim())), " · "] : null,
+                        (premier.cle || "").trim() ? [`${textes.cle} `, el("code", null, Q.donnee(Q.abrege(premier.cle.trim(), 60))), " · "] : null,
                         premier.enregistrement ? textes.numeroDansFichier(premier.enregistrement) : null)),
                 el("nav.voisins", { "aria-label": textes.enregistrement },
                     voisin(fichier.lignes[place - 1], textes.precedent, "←"),

@@ -48,6 +48,9 @@
     /** At most `n` characters of a text, with an ellipsis when some are left out. */
     Q.abrege = (texte, n) => (texte.length > n ? `${texte.slice(0, n - 1)}…` : texte);
 
+    /** Columns as in "65–76", or "79" for a single one. */
+    Q.plage = ([a, b]) => (a === b ? String(a) : `${a}–${b}`);
+
     /** A text from outside, isolated from the direction of what surrounds it. */
     Q.donnee = (texte, classes) => Q.el(classes ? `bdi.${classes}` : "bdi", null, Q.visible(texte));
 

@@ -80,7 +80,7 @@
         const forme = FORME[fichier.source.statut];
         return el(`section#fichier.carte.${forme}`, { "aria-labelledby": "titre-fichier", tabindex: "-1" },
             el("h2#titre-fichier", { tabindex: "-1" }, Q.symbole(forme), " ", Q.donnee(fichier.source.nom)),
-            el("p", null, el("b", null, titre), sous ? [". ", sous] : null),
+            el("p", null, el("b", null, titre), fichier.source.statut === ACCEPTE || fichier.source.statut === ARRETE ? ". " : " ", sous),
             el("div.phrases", null, phrases(vue, fichier)));
     }
 
@@ -96,7 +96,7 @@
             el("p.detail", null, [f.ligne ? textes.ligne(f.ligne) : null, f.code].filter(Boolean).map(Q.visible).join(" · ")),
             f.titre ? el("p", null, Q.visible(f.message)) : null,
             f.remede ? el("p.remede", null, el("b", null, `${textes.commentFaire} `), Q.visible(f.remede)) : null,
-            catalogue && catalogue.fatals.has(f.code) ? el("p.liens", null, el("a", { href: `#fatal-${f.code}` }, textes.voirErreur(f.code))) : null);
+            catalogue && catalogue.fatals.has(f.code) ? el("p.liens", null, el("a", { href: `#fatal-${f.code}` }, textes.voirFatal(f.code))) : null);
     }
 
     function avertissements(vue) {
@@ -182,7 +182,7 @@
             vue.panneau.scrollTop = 0;
             const titre = vue.panneau.querySelector("h3");
             titre.focus({ preventScroll: true });
-            if (!vue.aCote.matches) vue.panneau.scrollIntoView({ block: "start" });
+            if (!vue.aCote.matches || vue.panneau.getBoundingClientRect().top > innerHeight / 2) vue.panneau.scrollIntoView({ block: "start" });
         }
     }
 
@@ -229,10 +229,10 @@
 
     /** Makes the search index while nothing else is to be done. */
     function indexerEnReserve(vue) {
-        const fichier = vue.fichier;
+        const { fichier, mots } = vue;
         const tranche = () => {
-            if (vue.fin.signal.aborted || fichier !== vue.fichier) return;
-            if (!Q.indexer(fichier, fichier.index.length + 1000)) setTimeout(tranche);
+            if (vue.fin.signal.aborted || mots !== vue.mots) return;
+            if (!Q.indexer(fichier, mots, fichier.index.length + 1000)) setTimeout(tranche);
         };
         setTimeout(tranche, 50);
     }
@@ -266,6 +266,7 @@
         if (!liste.length) return message(vue, textes.aucunFichier, textes.aucunFichierSous);
         vue.fichier = liste[vue.rang];
         vue.catalogue = vue.donnees.catalogue(vue.langue);
+        vue.fichier.index.length = 0;
         vue.mots = (c) => Q.motsDe(c, langue, vue.langue, vue.catalogue);
         vue.ancre = (l) => (liste.length > 1 ? `#fichier-${vue.rang + 1}-ligne-${l}` : `#ligne-${l}`);
         vue.ligneOuverte = () => vue.ligne;
@@ -347,7 +348,10 @@
         const source = document.getElementById(id);
         if (!source) return undefined;
         try {
-            return JSON.parse(source.textContent);
+            const debut = performance.now();
+            const donnees = JSON.parse(source.textContent);
+            performance.measure("quilvane:lire", { start: debut });
+            return donnees;
         } catch {
             return null;
         } finally {

@@ -71,7 +71,7 @@
             const colonne = debut + i;
             const cellule = cellules[colonne - 1];
             const octet = cellule.length > 2;
-            const faux = fautives.has(colonne);
+            const faux = fautives.get(colonne);
             const dernier = morceaux[morceaux.length - 1];
             if (dernier && !octet && !dernier.octet && dernier.faux === faux && dernier.zone === zone(colonne))
                 dernier.texte += cellule;
@@ -81,13 +81,16 @@
             { title: m.octet, "data-colonne": m.colonne }, Q.visible(m.texte)));
     }
 
-    /** The columns that findings point at. */
-    Q.colonnesFautives = function (constats) {
-        const colonnes = new Set();
-        for (const c of constats)
-            if (c.colonnes) for (let i = c.colonnes[0]; i <= Math.min(c.colonnes[1], LARGEUR_MONTREE); i++) colonnes.add(i);
+    /** The columns that findings point at, each with the findings that do. */
+    function colonnesFautives(constats) {
+        const colonnes = new Map();
+        constats.forEach((c, rang) => {
+            if (!c.colonnes) return;
+            for (let i = Math.max(1, c.colonnes[0]); i <= Math.min(c.colonnes[1], LARGEUR_MONTREE); i++)
+                colonnes.set(i, `${colonnes.get(i) || ""} ${rang + 1}`);
+        });
         return colonnes;
-    };
+    }
 
     /**
      * The figure of a record. `texte` is escaped as in the report, `constats`
@@ -97,9 +100,9 @@
     Q.regle = function (texte, constats, largeur, textes) {
         const cellules = Q.cellules(texte);
         const montrees = cellules.slice(0, LARGEUR_MONTREE);
-        const fautives = Q.colonnesFautives(constats);
+        const fautives = colonnesFautives(constats);
         const niveaux = etages(constats);
-        const fin = Math.min(Math.max(montrees.length, ...fautives), LARGEUR_MONTREE);
+        const fin = Math.min(Math.max(montrees.length, ...fautives.keys()), LARGEUR_MONTREE);
         const pieces = [];
         for (let debut = 1; debut <= fin; debut += largeur) {
             const long = Math.min(largeur, fin - debut + 1);
@@ -110,7 +113,7 @@
                 Q.el("span.texte", null, ligneDeTexte(montrees, debut, long, fautives)), "\n",
                 Q.el("span.marques", { "aria-hidden": "true" }, lignes.join("\n"))));
         }
-        const zones = [...new Set(constats.filter((c) => c.colonnes).map((c) => c.colonnes.join("–")))].join(", ");
+        const zones = [...new Set(constats.filter((c) => c.colonnes).map((c) => Q.plage(c.colonnes)))].join(", ");
         return Q.el("figure.regle", { "aria-label": zones ? textes.regleResume(zones) : textes.regleSansColonne },
             Q.el("div.pieces", { dir: "ltr" }, pieces),
             cellules.length > montrees.length ? Q.el("p.note", null, textes.tropLong(cellules.length - montrees.length)) : null,

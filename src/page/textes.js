@@ -112,6 +112,7 @@
         derriere: "Trouvé après le dixième point de l’enregistrement ; le traitement s’arrête à dix.",
         voirChamp: (t) => `Ce que ${t} doit contenir`,
         voirErreur: (n) => `Le numéro ${n} en détail`,
+        voirFatal: (code) => `Le code ${code} en détail`,
         fiche: (t) => `Fiche ${t}`,
         parties: { E: "en-tête", C: "corps", F: "fin" },
 
@@ -230,6 +231,7 @@
         derriere: "Found behind the tenth point of the record; processing stops at ten.",
         voirChamp: (t) => `What ${t} must hold`,
         voirErreur: (n) => `Number ${n} in detail`,
+        voirFatal: (code) => `Code ${code} in detail`,
         fiche: (t) => `${t} entry`,
         parties: { E: "header", C: "body", F: "footer" },
 
