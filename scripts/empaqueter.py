@@ -47,8 +47,15 @@ def parties(dossier=DOSSIER, modele="rapport.html"):
 
 
 def dans_la_page(donnees):
-    """The JSON text of `donnees`, fit to stand inside a script element."""
-    return json.dumps(donnees, ensure_ascii=False, separators=(",", ":")).replace("<", "\\u003C")
+    """The JSON text of `donnees`, fit to stand inside a script element: as `dansLaPage` of page.h writes it."""
+    texte = json.dumps(donnees, ensure_ascii=False, separators=(",", ":"))
+    return re.sub("[<\u0100-\U0010ffff]", lambda c: "".join(f"\\u{u:04X}" for u in unites(c[0])), texte)
+
+
+def unites(caractere):
+    """The UTF-16 units of a character."""
+    octets = caractere.encode("utf-16-be")
+    return [int.from_bytes(octets[i:i + 2], "big") for i in range(0, len(octets), 2)]
 
 
 def page(rapport, catalogue, langue):

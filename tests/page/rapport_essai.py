@@ -416,7 +416,9 @@ class Surete(Rapport):
     def test_donnees_dans_la_page(self):
         texte = empaqueter.dans_la_page(donnees.hostile())
         self.assertNotIn("<", texte)
+        self.assertLess(max(texte), "\u0100")
         self.assertEqual(json.loads(texte), donnees.hostile())
+        self.assertEqual(empaqueter.dans_la_page("é’<\U0001f404"), '"é\\u2019\\u003C\\uD83D\\uDC04"')
 
 
 class Construction(unittest.TestCase):
