@@ -157,6 +157,8 @@
 
         return {
             element, marquer, filtrer: () => { poser(); filtrer(); },
+            /** The lines of the records that the filter lets through. */
+            lignes: () => [...new Set(trouves.map((i) => fichier.constats[i].ligne))],
             /** Puts as many rows into the page as are printed, and says how many those are. */
             imprimer: () => {
                 remplir(IMPRIMES);

@@ -50,7 +50,8 @@
         });
         const tri = (m) => [...m.values()].sort((a, b) => b.n - a.n);
         return {
-            source: fichier, constats, parLigne, decoulent,
+            // Any status this viewer does not know is one it cannot call accepted.
+            source: { ...fichier, statut: [0, 1, 2].includes(fichier.statut) ? fichier.statut : 1 }, constats, parLigne, decoulent,
             lignes: [...parLigne.keys()], parNumero: tri(parNumero), parType: tri(parType), index: [],
         };
     }

@@ -10,6 +10,7 @@
     const FORME = ["accepte", "arret", "corriger"];
     const BARRES = 8, AVERTISSEMENTS = 5;
     const LARGE = 64, ETROIT = 32;
+    const FICHES_IMPRIMEES = 40;
 
     // ------------------------------------------------ statement and summary
 
@@ -186,6 +187,28 @@
         }
     }
 
+    /** What goes to paper: the list, and every record of it when they are few, else the open one. */
+    function imprimer(vue) {
+        if (!vue.liste) return;
+        vue.liste.imprimer();
+        const lignes = vue.liste.lignes();
+        vue.papier.replaceChildren();
+        if (!lignes.length || lignes.length > FICHES_IMPRIMEES) return;
+        vue.panneau.classList.add("ecran");
+        for (const ligne of lignes) {
+            const fiche = el("section.carte.fiche-imprimee");
+            Q.montrerEnregistrement(fiche, ligne, { ...vue, largeur: LARGE });
+            fiche.querySelector("h3").removeAttribute("id");
+            vue.papier.append(fiche);
+        }
+    }
+
+    function finirDImprimer(vue) {
+        if (!vue.liste) return;
+        vue.papier.replaceChildren();
+        vue.panneau.classList.remove("ecran");
+    }
+
     function ouvrirFiche(vue, adresse) {
         const { dialogue, catalogue, textes } = vue;
         dialogue.querySelector(".contenu").replaceChildren(...Q.fiche(adresse, catalogue, textes).filter(Boolean));
@@ -285,7 +308,8 @@
         if (aListe) {
             vue.liste = Q.listeDeConstats(vue);
             vue.panneau = el("section#enregistrement.carte", { "aria-labelledby": "titre-enregistrement" });
-            principal.append(el("div.cote-a-cote", null, vue.liste.element, vue.panneau));
+            vue.papier = el("div.papier");
+            principal.append(el("div.cote-a-cote", null, vue.liste.element, vue.panneau), vue.papier);
             ouvrirLigne(vue, vue.fichier.parLigne.has(vue.ligne) ? vue.ligne : vue.fichier.lignes[0], false);
             indexerEnReserve(vue);
         }
@@ -309,7 +333,8 @@
             if (e.key === "Escape" && vue.panneau && vue.panneau.contains(e.target)) suivre(vue, "#constats", true);
         }, option);
         addEventListener("popstate", () => { if (vue.fichiers) suivre(vue, location.hash, true); }, option);
-        addEventListener("beforeprint", () => { if (vue.liste) vue.liste.imprimer(); }, option);
+        addEventListener("beforeprint", () => imprimer(vue), option);
+        addEventListener("afterprint", () => finirDImprimer(vue), option);
         vue.etroit.addEventListener("change", () => { if (vue.panneau) ouvrirLigne(vue, vue.ligne, false); }, option);
     }
 

@@ -11,13 +11,14 @@ import base64
 import json
 import os
 import pathlib
+import select
 import shutil
 import signal
 import subprocess
 import tempfile
 import time
 
-ATTENTE = 60
+ATTENTE = 60  # seconds without a sign of life after which a test gives up
 TOUCHES = {"Enter": (13, "\r"), "Tab": (9, ""), "Escape": (27, ""), "Home": (36, ""), "End": (35, ""), "ArrowUp": (38, ""),
            "ArrowDown": (40, ""), " ": (32, " ")}
 
@@ -36,7 +37,7 @@ class Chromium:
         # The browser reads commands from its descriptor 3 and answers on 4.
         lit, self.vers = os.pipe()
         self.de, ecrit = os.pipe()
-        options = ["--headless", "--no-sandbox", "--disable-gpu", "--disable-quic", "--no-first-run", "--disable-background-networking",
+        options = ["--headless", *(["--no-sandbox"] if os.geteuid() == 0 else []), "--disable-gpu", "--disable-quic", "--no-first-run", "--disable-background-networking",
                    "--disable-component-update", "--disable-sync", "--disable-extensions", "--disable-dev-shm-usage", "--hide-scrollbars",
                    "--remote-debugging-pipe", f"--user-data-dir={self.dossier}", f"--window-size={self.taille[0]},{self.taille[1]}", "about:blank"]
         self.programme = subprocess.Popen(
@@ -94,6 +95,8 @@ class Chromium:
     def recevoir(self):
         """The next message of the browser; events are kept as they come."""
         while b"\0" not in self.tampon:
+            if not select.select([self.de], [], [], ATTENTE)[0]:
+                raise RuntimeError(f"the browser says nothing for {ATTENTE} s")
             morceau = os.read(self.de, 1 << 20)
             if not morceau:
                 raise RuntimeError("the browser has ended")

@@ -111,6 +111,12 @@ class Enonce(Rapport):
         navigateur.cliquer("#arret .liens a")
         self.assertIn("Le fichier a deux formes de fin de ligne.", navigateur.texte("dialog[open]"))
 
+    def test_statut_inconnu(self):
+        rapport = donnees.accepte()
+        rapport["fichiers"][0]["statut"] = 9
+        self.ouvrir(rapport)
+        self.assertEqual(navigateur.textes("h1"), ["Ce fichier ne peut pas être traité tel quel"])
+
     def test_avertissements(self):
         rapport = donnees.petit()
         rapport["fichiers"][0]["avertissements"] = donnees.avertissements(7)
@@ -493,10 +499,16 @@ class Milieux(Rapport):
         self.ouvrir(donnees.petit(), deux_catalogues())
         pdf = navigateur.imprimer()
         self.assertEqual(pdf[:5], b"%PDF-")
+        navigateur.evaluer("dispatchEvent(new Event('beforeprint'))")
         navigateur.milieu(700, 1000, imprime=True)
+        self.assertEqual(navigateur.textes(".fiche-imprimee h3"), ["Ligne 2 NAIS CRE", "Ligne 3 NAIS MOD"])
+        self.assertEqual(navigateur.evaluer("getComputedStyle(document.querySelector('#enregistrement')).display"), "none")
         self.assertEqual(navigateur.evaluer("getComputedStyle(document.querySelector('.filtres')).display"), "none")
         self.assertIn("Écrivez 1 pour un mâle", navigateur.texte("tr.constat[data-champ=C4]"))
         self.photo("imprime")
+        navigateur.milieu()
+        navigateur.evaluer("dispatchEvent(new Event('afterprint'))")
+        self.assertEqual(navigateur.compter(".fiche-imprimee, #enregistrement.ecran"), 0)
         if options.photos:
             (pathlib.Path(options.photos) / "imprime.pdf").write_bytes(pdf)
 
