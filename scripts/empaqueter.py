@@ -35,8 +35,11 @@ def parties(dossier=DOSSIER, modele="rapport.html"):
             raise SystemExit(f"{place[1]}: the text {interdit} would end the element")
         empreintes[marque] = empreinte(contenu)
         page = page.replace(place[0], contenu)
-    page = page.replace("@CSP@", f"default-src 'none'; style-src '{empreintes['CSS']}'; script-src '{empreintes['JS']}'; "
-                                 "img-src data:; base-uri 'none'; form-action 'none'")
+    page = page.replace(
+        "@CSP@",
+        f"default-src 'none'; style-src '{empreintes['CSS']}'; script-src '{empreintes['JS']}'; "
+        "img-src data:; base-uri 'none'; form-action 'none'",
+    )
     morceaux = []
     for marque in ("@LANGUE@", "@RAPPORT@", "@CATALOGUE@"):
         avant, trouve, page = page.partition(marque)
@@ -55,7 +58,7 @@ def dans_la_page(donnees):
 def unites(caractere):
     """The UTF-16 units of a character."""
     octets = caractere.encode("utf-16-be")
-    return [int.from_bytes(octets[i:i + 2], "big") for i in range(0, len(octets), 2)]
+    return [int.from_bytes(octets[i : i + 2], "big") for i in range(0, len(octets), 2)]
 
 
 def page(rapport, catalogue, langue):
@@ -77,7 +80,9 @@ def main():
     options.add_argument("--langue", choices=("fr", "en"), default="fr")
     options.add_argument("-o", "--sortie", required=True)
     choix = options.parse_args()
-    pathlib.Path(choix.sortie).write_text(page(lire(choix.rapport), lire(choix.catalogue), choix.langue), encoding="utf-8")
+    pathlib.Path(choix.sortie).write_text(
+        page(lire(choix.rapport), lire(choix.catalogue), choix.langue), encoding="utf-8"
+    )
 
 
 if __name__ == "__main__":

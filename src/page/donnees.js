@@ -22,7 +22,8 @@
     }
 
     /** The table of the catalogue in which a finding's field stands. */
-    Q.tableDe = (constat) => (constat.partie === "E" || constat.partie === "F" ? constat.partie : constat.type);
+    Q.tableDe = (constat) =>
+        constat.partie === "E" || constat.partie === "F" ? constat.partie : constat.type;
 
     function champDuCatalogue(catalogue, constat) {
         const table = catalogue && constat.champ && catalogue.tables.get(Q.tableDe(constat));
@@ -51,8 +52,14 @@
         const tri = (m) => [...m.values()].sort((a, b) => b.n - a.n);
         return {
             // Any status this viewer does not know is one it cannot call accepted.
-            source: { ...fichier, statut: [0, 1, 2].includes(fichier.statut) ? fichier.statut : 1 }, constats, parLigne, decoulent,
-            lignes: [...parLigne.keys()], parNumero: tri(parNumero), parType: tri(parType), index: [],
+            source: { ...fichier, statut: [0, 1, 2].includes(fichier.statut) ? fichier.statut : 1 },
+            constats,
+            parLigne,
+            decoulent,
+            lignes: [...parLigne.keys()],
+            parNumero: tri(parNumero),
+            parType: tri(parType),
+            index: [],
         };
     }
 
@@ -61,10 +68,14 @@
      * per language. Returns null when it is no report this viewer knows.
      */
     Q.preparer = function (rapport, catalogue) {
-        const rapports = liste(rapport).filter((r) => r && r.format === "quilvane-rapport/1" && Array.isArray(r.fichiers));
+        const rapports = liste(rapport).filter(
+            (r) => r && r.format === "quilvane-rapport/1" && Array.isArray(r.fichiers),
+        );
         if (!rapports.length) return null;
         const catalogues = liste(catalogue).filter((c) => c && c.format === "quilvane-catalogue/1");
-        const langues = [...new Set([...rapports, ...catalogues].map((x) => x.langue))].filter((l) => Q.textes[l]);
+        const langues = [...new Set([...rapports, ...catalogues].map((x) => x.langue))].filter(
+            (l) => Q.textes[l],
+        );
         const prets = new Map();
         return {
             /** Languages in which the reader can be served: those of the reports and of the catalogues. */
@@ -72,7 +83,10 @@
             langueDesMessages: rapports[0].langue,
             catalogue: (langue) => {
                 if (!prets.has(langue))
-                    prets.set(langue, preparerCatalogue(catalogues.find((c) => c.langue === langue) || catalogues[0]));
+                    prets.set(
+                        langue,
+                        preparerCatalogue(catalogues.find((c) => c.langue === langue) || catalogues[0]),
+                    );
                 return prets.get(langue);
             },
             fichiers: (langue) => {
@@ -95,19 +109,30 @@
      */
     Q.motsDe = function (constat, langueDuRapport, langue, catalogue) {
         const autre = langue !== langueDuRapport;
-        const propres = { titre: constat.titre || "", remede: constat.remede || "", libelle: constat.libelle || "",
-            message: constat.message || "", langue: autre ? langueDuRapport : null };
+        const propres = {
+            titre: constat.titre || "",
+            remede: constat.remede || "",
+            libelle: constat.libelle || "",
+            message: constat.message || "",
+            langue: autre ? langueDuRapport : null,
+        };
         if (!catalogue || (autre && catalogue.langue !== langue)) return propres;
         if (!autre && propres.titre && propres.remede && propres.libelle) return propres;
         const erreur = catalogue.erreurs.get(String(constat.numero)) || {};
         const champ = champDuCatalogue(catalogue, constat) || {};
         const choisir = (propre, du) => (autre ? du || propre : propre || du || "");
-        return { ...propres, titre: choisir(propres.titre, erreur.titre), remede: choisir(propres.remede, erreur.remede),
-            libelle: choisir(propres.libelle, champ.libelle) };
+        return {
+            ...propres,
+            titre: choisir(propres.titre, erreur.titre),
+            remede: choisir(propres.remede, erreur.remede),
+            libelle: choisir(propres.libelle, champ.libelle),
+        };
     };
 
-    const texteCherche = (c, m) => Q.plat(
-        `${c.ligne} ${c.type} ${c.genre} ${c.cle} ${c.champ || ""} ${m.libelle} ${c.valeur} ${c.numero} ${c.code} ${m.titre} ${m.message}`);
+    const texteCherche = (c, m) =>
+        Q.plat(
+            `${c.ligne} ${c.type} ${c.genre} ${c.cle} ${c.champ || ""} ${m.libelle} ${c.valeur} ${c.numero} ${c.code} ${m.titre} ${m.message}`,
+        );
 
     /** Makes the index up to `jusque`, in the words of the reader; it is made in slices while the reader reads. */
     Q.indexer = function (fichier, mots, jusque = fichier.constats.length) {

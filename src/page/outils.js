@@ -41,9 +41,14 @@
         return svg;
     };
 
-    const INVISIBLES = /[\u0000-\u001f\u007f-\u009f\u00ad\u061c\u180e\u200b-\u200f\u2028-\u202e\u2060-\u206f\ufeff\ufff9-\ufffb]/g;
+    const INVISIBLES =
+        /[\u0000-\u001f\u007f-\u009f\u00ad\u061c\u180e\u200b-\u200f\u2028-\u202e\u2060-\u206f\ufeff\ufff9-\ufffb]/g;
     /** A text from outside in which nothing is invisible and nothing turns the reading direction. */
-    Q.visible = (texte) => String(texte ?? "").replace(INVISIBLES, (c) => `\\u${c.charCodeAt(0).toString(16).toUpperCase().padStart(4, "0")}`);
+    Q.visible = (texte) =>
+        String(texte ?? "").replace(
+            INVISIBLES,
+            (c) => `\\u${c.charCodeAt(0).toString(16).toUpperCase().padStart(4, "0")}`,
+        );
 
     /** At most `n` characters of a text, with an ellipsis when some are left out. */
     Q.abrege = (texte, n) => (texte.length > n ? `${texte.slice(0, n - 1)}…` : texte);
@@ -58,8 +63,9 @@
     Q.valeur = function (valeur, textes, limite = Infinity) {
         const v = Q.visible(valeur ?? "");
         if (/^ *$/.test(v)) return Q.el("span.vide", null, textes.vide(v.length));
-        const morceaux = Q.abrege(v, limite).split(/(^ +| +$| {2,})/).map((m) =>
-            /^ +$/.test(m) ? Q.el("span.blancs", null, m) : m);
+        const morceaux = Q.abrege(v, limite)
+            .split(/(^ +| +$| {2,})/)
+            .map((m) => (/^ +$/.test(m) ? Q.el("span.blancs", null, m) : m));
         return Q.el("code.valeur", { dir: "ltr" }, morceaux);
     };
 

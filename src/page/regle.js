@@ -4,7 +4,8 @@
  */
 "use strict";
 (function (Q) {
-    const FIN_ENTETE = 62, FIN_CORPS = 230;
+    const FIN_ENTETE = 62,
+        FIN_CORPS = 230;
     const LARGEUR_MONTREE = 1024;
 
     /** The number over every tenth column, and the marks of the ruler. */
@@ -16,7 +17,9 @@
             marques += colonne % 10 === 0 ? "|" : colonne % 5 === 0 ? ":" : "·";
             const texte = String(colonne);
             if (colonne % 10 === 0 && i >= texte.length - 1)
-                [...texte].forEach((c, k) => { nombres[i - texte.length + 1 + k] = c; });
+                [...texte].forEach((c, k) => {
+                    nombres[i - texte.length + 1 + k] = c;
+                });
         }
         return [nombres.join(""), marques];
     }
@@ -47,7 +50,12 @@
     function marque(plage) {
         const largeur = plage.b - plage.a + 1;
         const nom = plage.numeros.join(",");
-        const court = nom.length <= largeur ? nom : String(plage.numeros[0]).length <= largeur ? String(plage.numeros[0]) : "";
+        const court =
+            nom.length <= largeur
+                ? nom
+                : String(plage.numeros[0]).length <= largeur
+                  ? String(plage.numeros[0])
+                  : "";
         return court + "^".repeat(largeur - court.length);
     }
 
@@ -73,12 +81,30 @@
             const octet = cellule.length > 2;
             const faux = fautives.get(colonne);
             const dernier = morceaux[morceaux.length - 1];
-            if (dernier && !octet && !dernier.octet && dernier.faux === faux && dernier.zone === zone(colonne))
+            if (
+                dernier &&
+                !octet &&
+                !dernier.octet &&
+                dernier.faux === faux &&
+                dernier.zone === zone(colonne)
+            )
                 dernier.texte += cellule;
-            else morceaux.push({ texte: octet ? "?" : cellule, octet: octet ? cellule : null, faux, zone: zone(colonne), colonne });
+            else
+                morceaux.push({
+                    texte: octet ? "?" : cellule,
+                    octet: octet ? cellule : null,
+                    faux,
+                    zone: zone(colonne),
+                    colonne,
+                });
         }
-        return morceaux.map((m) => Q.el(`${m.faux ? "mark" : "span"}.${m.zone}${m.octet ? ".octet" : ""}`,
-            { title: m.octet, "data-colonne": m.colonne }, Q.visible(m.texte)));
+        return morceaux.map((m) =>
+            Q.el(
+                `${m.faux ? "mark" : "span"}.${m.zone}${m.octet ? ".octet" : ""}`,
+                { title: m.octet, "data-colonne": m.colonne },
+                Q.visible(m.texte),
+            ),
+        );
     }
 
     /** The columns that findings point at, each with the findings that do. */
@@ -108,15 +134,33 @@
             const long = Math.min(largeur, fin - debut + 1);
             const [nombres, marques] = echelle(debut, long);
             const lignes = niveaux.map((n) => ligneDeMarques(n, debut, long)).filter((l) => l.trim() !== "");
-            pieces.push(Q.el(lignes.length ? "div.piece.touchee" : "div.piece", null,
-                Q.el("span.echelle", { "aria-hidden": "true" }, `${nombres}\n${marques}\n`),
-                Q.el("span.texte", null, ligneDeTexte(montrees, debut, long, fautives)), "\n",
-                Q.el("span.marques", { "aria-hidden": "true" }, lignes.join("\n"))));
+            pieces.push(
+                Q.el(
+                    lignes.length ? "div.piece.touchee" : "div.piece",
+                    null,
+                    Q.el("span.echelle", { "aria-hidden": "true" }, `${nombres}\n${marques}\n`),
+                    Q.el("span.texte", null, ligneDeTexte(montrees, debut, long, fautives)),
+                    "\n",
+                    Q.el("span.marques", { "aria-hidden": "true" }, lignes.join("\n")),
+                ),
+            );
         }
-        const zones = [...new Set(constats.filter((c) => c.colonnes).map((c) => Q.plage(c.colonnes)))].join(", ");
-        return Q.el("figure.regle", { "aria-label": zones ? textes.regleResume(zones) : textes.regleSansColonne },
+        const zones = [...new Set(constats.filter((c) => c.colonnes).map((c) => Q.plage(c.colonnes)))].join(
+            ", ",
+        );
+        return Q.el(
+            "figure.regle",
+            { "aria-label": zones ? textes.regleResume(zones) : textes.regleSansColonne },
             Q.el("div.pieces", { dir: "ltr" }, pieces),
-            cellules.length > montrees.length ? Q.el("p.note", null, textes.tropLong(cellules.length - montrees.length)) : null,
-            Q.el("figcaption", null, textes.legende, cellules.some((c) => c.length > 2) ? ` ${textes.legendeOctet}` : ""));
+            cellules.length > montrees.length
+                ? Q.el("p.note", null, textes.tropLong(cellules.length - montrees.length))
+                : null,
+            Q.el(
+                "figcaption",
+                null,
+                textes.legende,
+                cellules.some((c) => c.length > 2) ? ` ${textes.legendeOctet}` : "",
+            ),
+        );
     };
 })((globalThis.Quilvane ??= {}));

@@ -19,8 +19,16 @@ import tempfile
 import time
 
 ATTENTE = 60  # seconds without a sign of life after which a test gives up
-TOUCHES = {"Enter": (13, "\r"), "Tab": (9, ""), "Escape": (27, ""), "Home": (36, ""), "End": (35, ""), "ArrowUp": (38, ""),
-           "ArrowDown": (40, ""), " ": (32, " ")}
+TOUCHES = {
+    "Enter": (13, "\r"),
+    "Tab": (9, ""),
+    "Escape": (27, ""),
+    "Home": (36, ""),
+    "End": (35, ""),
+    "ArrowUp": (38, ""),
+    "ArrowDown": (40, ""),
+    " ": (32, " "),
+}
 
 
 def manquant():
@@ -37,21 +45,40 @@ class Chromium:
         # The browser reads commands from its descriptor 3 and answers on 4.
         lit, self.vers = os.pipe()
         self.de, ecrit = os.pipe()
-        options = ["--headless", *(["--no-sandbox"] if os.geteuid() == 0 else []), "--disable-gpu", "--disable-quic", "--no-first-run", "--disable-background-networking",
-                   "--disable-component-update", "--disable-sync", "--disable-extensions", "--disable-dev-shm-usage", "--hide-scrollbars",
-                   "--remote-debugging-pipe", f"--user-data-dir={self.dossier}", f"--window-size={self.taille[0]},{self.taille[1]}", "about:blank"]
+        options = [
+            "--headless",
+            *(["--no-sandbox"] if os.geteuid() == 0 else []),
+            "--disable-gpu",
+            "--disable-quic",
+            "--no-first-run",
+            "--disable-background-networking",
+            "--disable-component-update",
+            "--disable-sync",
+            "--disable-extensions",
+            "--disable-dev-shm-usage",
+            "--hide-scrollbars",
+            "--remote-debugging-pipe",
+            f"--user-data-dir={self.dossier}",
+            f"--window-size={self.taille[0]},{self.taille[1]}",
+            "about:blank",
+        ]
         self.programme = subprocess.Popen(
-            ["sh", "-c", 'exec chromium "$@" 3<&0 4>&1 </dev/null >/dev/null', "sh", *options], start_new_session=True,
-            stdin=lit, stdout=ecrit, stderr=subprocess.DEVNULL, env={**os.environ, "HOME": self.dossier})
+            ["sh", "-c", 'exec chromium "$@" 3<&0 4>&1 </dev/null >/dev/null', "sh", *options],
+            start_new_session=True,
+            stdin=lit,
+            stdout=ecrit,
+            stderr=subprocess.DEVNULL,
+            env={**os.environ, "HOME": self.dossier},
+        )
         os.close(lit)
         os.close(ecrit)
         self.tampon = b""
         self.compteur = 0
-        self.session = None
+        self.onglet = None
         self.console, self.requetes, self.charges = [], [], 0
         try:
             cible = self.demander("Target.createTarget", url="about:blank")["targetId"]
-            self.session = self.demander("Target.attachToTarget", targetId=cible, flatten=True)["sessionId"]
+            self.onglet = self.demander("Target.attachToTarget", targetId=cible, flatten=True)["sessionId"]
             for domaine in ("Page", "Runtime", "Network", "Log"):
                 self.demander(f"{domaine}.enable")
         except BaseException:
@@ -66,7 +93,7 @@ class Chromium:
             self.programme.wait(5)
         except subprocess.TimeoutExpired:
             pass
-        # What the browser started belongs to its own session and goes with it.
+        # What the browser started belongs to its process group and goes with it.
         try:
             os.killpg(self.programme.pid, signal.SIGKILL)
         except ProcessLookupError:
@@ -80,11 +107,11 @@ class Chromium:
         """Sends a command and returns its result."""
         self.compteur += 1
         message = {"id": self.compteur, "method": methode, "params": parametres}
-        if self.session:
-            message["sessionId"] = self.session
+        if self.onglet:
+            message["sessionId"] = self.onglet
         donnees = json.dumps(message).encode() + b"\0"
         while donnees:
-            donnees = donnees[os.write(self.vers, donnees):]
+            donnees = donnees[os.write(self.vers, donnees) :]
         while True:
             reponse = self.recevoir()
             if reponse.get("id") == self.compteur:
@@ -127,7 +154,10 @@ class Chromium:
         avant = self.charges
         self.demander("Page.navigate", url=pathlib.Path(chemin).resolve().as_uri() + ancre)
         fin = time.monotonic() + ATTENTE
-        while self.charges == avant or self.evaluer("location.protocol + document.readyState") != "file:complete":
+        while (
+            self.charges == avant
+            or self.evaluer("location.protocol + document.readyState") != "file:complete"
+        ):
             if time.monotonic() > fin:
                 raise RuntimeError(f"{chemin} does not load")
             if self.charges == avant:
@@ -148,7 +178,9 @@ class Chromium:
 
     def textes(self, selecteur):
         """The shown text of every element that a selector finds."""
-        return self.evaluer(f"[...document.querySelectorAll({json.dumps(selecteur)})].map((e) => e.innerText)")
+        return self.evaluer(
+            f"[...document.querySelectorAll({json.dumps(selecteur)})].map((e) => e.innerText)"
+        )
 
     def texte(self, selecteur):
         return self.evaluer(f"document.querySelector({json.dumps(selecteur)}).innerText")
@@ -158,8 +190,10 @@ class Chromium:
 
     def cliquer(self, selecteur):
         """A real click in the middle of an element."""
-        x, y = self.evaluer(f"""(() => {{ const e = document.querySelector({json.dumps(selecteur)});
-            e.scrollIntoView({{block: "center"}}); const r = e.getClientRects()[0]; return [r.x + r.width / 2, r.y + r.height / 2]; }})()""")
+        x, y = self.evaluer(
+            f"""(() => {{ const e = document.querySelector({json.dumps(selecteur)});
+            e.scrollIntoView({{block: "center"}}); const r = e.getClientRects()[0]; return [r.x + r.width / 2, r.y + r.height / 2]; }})()"""
+        )
         for evenement in ("mousePressed", "mouseReleased"):
             self.demander("Input.dispatchMouseEvent", type=evenement, x=x, y=y, button="left", clickCount=1)
         self.dessine()
@@ -167,8 +201,18 @@ class Chromium:
     def touche(self, nom, majuscule=False):
         """A key of TOUCHES, pressed and let go."""
         code, texte = TOUCHES[nom]
-        commun = {"key": nom, "code": "Space" if nom == " " else nom, "windowsVirtualKeyCode": code, "modifiers": 8 if majuscule else 0}
-        self.demander("Input.dispatchKeyEvent", type="keyDown" if texte else "rawKeyDown", **({"text": texte} if texte else {}), **commun)
+        commun = {
+            "key": nom,
+            "code": "Space" if nom == " " else nom,
+            "windowsVirtualKeyCode": code,
+            "modifiers": 8 if majuscule else 0,
+        }
+        self.demander(
+            "Input.dispatchKeyEvent",
+            type="keyDown" if texte else "rawKeyDown",
+            **({"text": texte} if texte else {}),
+            **commun,
+        )
         self.demander("Input.dispatchKeyEvent", type="keyUp", **commun)
         self.dessine()
 
@@ -180,9 +224,18 @@ class Chromium:
     def milieu(self, largeur=None, hauteur=900, sombre=False, imprime=False):
         """Width of the screen, colour scheme and medium, as a reader's machine would have them."""
         largeur = largeur or self.taille[0]
-        self.demander("Emulation.setDeviceMetricsOverride", width=largeur, height=hauteur, deviceScaleFactor=1, mobile=False)
-        self.demander("Emulation.setEmulatedMedia", media="print" if imprime else "",
-                      features=[{"name": "prefers-color-scheme", "value": "dark" if sombre else "light"}])
+        self.demander(
+            "Emulation.setDeviceMetricsOverride",
+            width=largeur,
+            height=hauteur,
+            deviceScaleFactor=1,
+            mobile=False,
+        )
+        self.demander(
+            "Emulation.setEmulatedMedia",
+            media="print" if imprime else "",
+            features=[{"name": "prefers-color-scheme", "value": "dark" if sombre else "light"}],
+        )
         self.dessine()
 
     def photographier(self, chemin, entiere=True):
@@ -192,4 +245,6 @@ class Chromium:
 
     def imprimer(self):
         """The PDF that the page prints."""
-        return base64.b64decode(self.demander("Page.printToPDF", printBackground=False, preferCSSPageSize=True)["data"])
+        return base64.b64decode(
+            self.demander("Page.printToPDF", printBackground=False, preferCSSPageSize=True)["data"]
+        )

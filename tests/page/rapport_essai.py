@@ -55,7 +55,10 @@ class Rapport(unittest.TestCase):
     def tearDown(self):
         if getattr(self, "chemin", None) and not getattr(self, "plaintes_attendues", False):
             self.assertEqual(navigateur.console, [])
-            self.assertEqual({u.split("#")[0] for u in navigateur.requetes if not u.startswith("data:")}, {self.chemin.as_uri()})
+            self.assertEqual(
+                {u.split("#")[0] for u in navigateur.requetes if not u.startswith("data:")},
+                {self.chemin.as_uri()},
+            )
 
     def filtrer(self, texte):
         """Types into the search field, over what stood there."""
@@ -68,10 +71,14 @@ class Rapport(unittest.TestCase):
         navigateur.dessine()
 
     def lignes(self):
-        return navigateur.evaluer("[...document.querySelectorAll('tr.constat')].map((t) => [+t.dataset.ligne, +t.dataset.numero, t.dataset.champ])")
+        return navigateur.evaluer(
+            "[...document.querySelectorAll('tr.constat')].map((t) => [+t.dataset.ligne, +t.dataset.numero, t.dataset.champ])"
+        )
 
     def foyer(self):
-        return navigateur.evaluer("document.activeElement.id || document.activeElement.getAttribute('href') || document.activeElement.tagName")
+        return navigateur.evaluer(
+            "document.activeElement.id || document.activeElement.getAttribute('href') || document.activeElement.tagName"
+        )
 
     def photo(self, nom, entiere=True):
         if options.photos:
@@ -83,8 +90,15 @@ class Enonce(Rapport):
         self.ouvrir(donnees.petit(), deux_catalogues())
         self.assertEqual(navigateur.textes("h1"), ["2 enregistrements à corriger"])
         resume = navigateur.texte("#resume")
-        for attendu in ("lot.vse", "sur 3 lus", "1 enregistrement est correct, 2 sont à corriger.", "5 points sont signalés",
-                        "un d’eux découle sans doute d’un autre", "Numéro d’animal mal formé", "quilvane publierait un fichier d’erreurs"):
+        for attendu in (
+            "lot.vse",
+            "sur 3 lus",
+            "1 enregistrement est correct, 2 sont à corriger.",
+            "5 points sont signalés",
+            "un d’eux découle sans doute d’un autre",
+            "Numéro d’animal mal formé",
+            "quilvane publierait un fichier d’erreurs",
+        ):
             self.assertIn(attendu, resume)
         self.assertEqual(navigateur.compter("#resume.corriger svg.corriger"), 1)
 
@@ -94,19 +108,30 @@ class Enonce(Rapport):
         f.update(constats=f["constats"][:1], enregistrements=1, acceptes=0, refuses=1)
         self.ouvrir(rapport)
         self.assertEqual(navigateur.textes("h1"), ["1 enregistrement à corriger"])
-        self.assertIn("Aucun enregistrement n’est correct, 1 est à corriger. Un point est signalé.", navigateur.texte("#resume"))
+        self.assertIn(
+            "Aucun enregistrement n’est correct, 1 est à corriger. Un point est signalé.",
+            navigateur.texte("#resume"),
+        )
 
     def test_accepte(self):
         self.ouvrir(donnees.accepte(), deux_catalogues())
         self.assertEqual(navigateur.textes("h1"), ["Ce fichier serait accepté"])
         self.assertIn("4 enregistrements lus, rien à corriger.", navigateur.texte("#resume"))
-        self.assertEqual([navigateur.compter(s) for s in ("#resume.accepte", "#constats", "#enregistrement", "#arret")], [1, 0, 0, 0])
+        self.assertEqual(
+            [navigateur.compter(s) for s in ("#resume.accepte", "#constats", "#enregistrement", "#arret")],
+            [1, 0, 0, 0],
+        )
 
     def test_fatal(self):
         self.ouvrir(donnees.fatal(), deux_catalogues())
         self.assertEqual(navigateur.textes("h1"), ["Ce fichier ne peut pas être traité tel quel"])
         arret = navigateur.texte("#arret")
-        for attendu in ("Fins de ligne mélangées", "Ligne 12 · IG008", "La ligne 12 finit par CR LF", "Enregistrez le fichier avec une seule forme"):
+        for attendu in (
+            "Fins de ligne mélangées",
+            "Ligne 12 · IG008",
+            "La ligne 12 finit par CR LF",
+            "Enregistrez le fichier avec une seule forme",
+        ):
             self.assertIn(attendu, arret)
         navigateur.cliquer("#arret .liens a")
         self.assertIn("Le fichier a deux formes de fin de ligne.", navigateur.texte("dialog[open]"))
@@ -157,15 +182,21 @@ class Enonce(Rapport):
 class Liste(Rapport):
     def test_crochets(self):
         self.ouvrir(donnees.petit(), deux_catalogues())
-        self.assertEqual(self.lignes(), [[2, 67, "C2"], [2, 3, "C4"], [3, 6, "C10"], [3, 67, "C11"], [3, 68, "C17"]])
+        self.assertEqual(
+            self.lignes(), [[2, 67, "C2"], [2, 3, "C4"], [3, 6, "C10"], [3, 67, "C11"], [3, 68, "C17"]]
+        )
         self.assertEqual(navigateur.textes("#compte"), ["5 points dans 2 enregistrements"])
 
     def test_barres(self):
         self.ouvrir(donnees.petit(), deux_catalogues())
         self.assertEqual([t.split() for t in navigateur.textes("#barres-numero button")][0][::5], ["67", "2"])
-        largeurs = navigateur.evaluer("[...document.querySelectorAll('#barres-numero .barre span')].map((e) => e.style.width)")
+        largeurs = navigateur.evaluer(
+            "[...document.querySelectorAll('#barres-numero .barre span')].map((e) => e.style.width)"
+        )
         self.assertEqual(largeurs, ["100%", "50%", "50%", "50%"])
-        pixels = navigateur.evaluer("[...document.querySelectorAll('#barres-numero .barre span')].map((e) => Math.round(e.getBoundingClientRect().width))")
+        pixels = navigateur.evaluer(
+            "[...document.querySelectorAll('#barres-numero .barre span')].map((e) => Math.round(e.getBoundingClientRect().width))"
+        )
         self.assertAlmostEqual(pixels[0], 2 * pixels[1], delta=2)
         navigateur.cliquer("#barres-numero button[data-cle='68']")
         self.assertEqual(self.lignes(), [[3, 68, "C17"]])
@@ -176,8 +207,15 @@ class Liste(Rapport):
 
     def test_recherche(self):
         self.ouvrir(donnees.petit(), deux_catalogues())
-        for texte, attendu in (("00123456", [68]), ("EXPLOITATION", [68]), ("numero mere", [67]), ("sexe", [3]), ("I0061", [6]),
-                               ("c4 cre", [3]), ("aucun-de-ceux-ci", [])):
+        for texte, attendu in (
+            ("00123456", [68]),
+            ("EXPLOITATION", [68]),
+            ("numero mere", [67]),
+            ("sexe", [3]),
+            ("I0061", [6]),
+            ("c4 cre", [3]),
+            ("aucun-de-ceux-ci", []),
+        ):
             self.filtrer(texte)
             self.assertEqual([n for _, n, _ in self.lignes()], attendu, texte)
             self.assertIn(f"{len(attendu)} point", navigateur.texte("#compte"))
@@ -226,37 +264,59 @@ class Liste(Rapport):
         """A page may show other data at any time."""
         self.ouvrir(donnees.petit(), deux_catalogues())
         suivant = json.dumps([donnees.accepte("en"), donnees.catalogue("en")])
-        navigateur.evaluer(f"(() => {{ const [r, c] = {suivant}; QuilvaneVue.afficher(document.getElementById('vue'), r, c, 'en'); }})()")
+        navigateur.evaluer(
+            f"(() => {{ const [r, c] = {suivant}; QuilvaneVue.afficher(document.getElementById('vue'), r, c, 'en'); }})()"
+        )
         self.assertEqual(navigateur.textes("h1"), ["This file would be accepted"])
 
 
 class Enregistrement(Rapport):
     def marquees(self):
         """The columns that are marked in the shown record, from the elements themselves."""
-        return navigateur.evaluer("""[...document.querySelectorAll('#enregistrement .texte mark')].map((m) =>
-            [+m.dataset.colonne, +m.dataset.colonne + m.textContent.length - 1, m.textContent])""")
+        return navigateur.evaluer(
+            """[...document.querySelectorAll('#enregistrement .texte mark')].map((m) =>
+            [+m.dataset.colonne, +m.dataset.colonne + m.textContent.length - 1, m.textContent])"""
+        )
 
     def test_colonnes(self):
         self.ouvrir(donnees.petit(), deux_catalogues())
         self.assertEqual(self.marquees(), [[65, 76, "ZZ12345678  "], [79, 79, "3"]])
         navigateur.cliquer("tr.constat[data-ligne='3'] a")
-        self.assertEqual(self.marquees(), [[105, 106, "ZZ"], [107, 118, "7800000012  "], [139, 150, "00123456    "]])
-        self.assertEqual(navigateur.evaluer("document.querySelector('#enregistrement .octet').title"), "\\xC9")
+        self.assertEqual(
+            self.marquees(), [[105, 106, "ZZ"], [107, 118, "7800000012  "], [139, 150, "00123456    "]]
+        )
+        self.assertEqual(
+            navigateur.evaluer("document.querySelector('#enregistrement .octet').title"), "\\xC9"
+        )
         # More than colour: underlined, and the number of the explanation below.
-        self.assertIn("underline", navigateur.evaluer("getComputedStyle(document.querySelector('#enregistrement mark')).textDecorationLine"))
-        pieces = navigateur.evaluer("[...document.querySelectorAll('#enregistrement .piece')].map((p) => p.textContent.split('\\n'))")
+        self.assertIn(
+            "underline",
+            navigateur.evaluer(
+                "getComputedStyle(document.querySelector('#enregistrement mark')).textDecorationLine"
+            ),
+        )
+        pieces = navigateur.evaluer(
+            "[...document.querySelectorAll('#enregistrement .piece')].map((p) => p.textContent.split('\\n'))"
+        )
         _, _, texte, marques = pieces[1]
-        self.assertEqual(texte[105 - 65:118 - 64], "ZZ7800000012  ")
+        self.assertEqual(texte[105 - 65 : 118 - 64], "ZZ7800000012  ")
         self.assertEqual(marques, " " * 40 + "1^3" + "^" * 11)
         nombres, echelle = pieces[1][:2]
-        self.assertEqual((nombres[68 - 64:70 - 64], echelle[70 - 65]), ("70", "|"))
+        self.assertEqual((nombres[68 - 64 : 70 - 64], echelle[70 - 65]), ("70", "|"))
 
     def test_explication(self):
         self.ouvrir(donnees.petit(), deux_catalogues(), ancre="#ligne-3")
         textes = navigateur.textes("#enregistrement li.explication")
         self.assertEqual(len(textes), 3)
-        for attendu in ("Pays de la mère", "C10 · colonnes 105 à 106 · numéro 6", "« ZZ » n’est pas un pays de la liste.", "Valeur reçue",
-                        "Valeurs proches admises", "FI", "Écrivez le code du pays sur deux lettres."):
+        for attendu in (
+            "Pays de la mère",
+            "C10 · colonnes 105 à 106 · numéro 6",
+            "« ZZ » n’est pas un pays de la liste.",
+            "Valeur reçue",
+            "Valeurs proches admises",
+            "FI",
+            "Écrivez le code du pays sur deux lettres.",
+        ):
             self.assertIn(attendu, textes[0])
         # What follows from another comes last and names its cause.
         self.assertRegex(textes[2], r"(?s)Numéro de la mère.*Découle sans doute de\s+1\. Pays de la mère")
@@ -296,11 +356,20 @@ class Enregistrement(Rapport):
         self.assertEqual(navigateur.compter("tr.constat[aria-current]"), 3)
         navigateur.cliquer(".voisins a")
         self.assertEqual(navigateur.evaluer("location.hash"), "#ligne-2")
-        navigateur.evaluer("new Promise((r) => { addEventListener('popstate', () => setTimeout(r)); history.back(); })")
+        navigateur.evaluer(
+            "new Promise((r) => { addEventListener('popstate', () => setTimeout(r)); history.back(); })"
+        )
         self.assertIn("Ligne 3", navigateur.texte("#titre-enregistrement"))
         self.ouvrir(donnees.plusieurs(), deux_catalogues(), ancre="#fichier-4-ligne-3")
         self.assertIn("fevrier.vse", navigateur.texte("#fichier"))
         self.assertIn("Ligne 3", navigateur.texte("#titre-enregistrement"))
+
+    def test_liens_sans_but(self):
+        """An address that names nothing shows the report as it is."""
+        for ancre in ("#ligne-999", "#fichier-9", "#NAIS2", "#%E0%A4%A", "#erreur-999"):
+            self.ouvrir(donnees.petit(), deux_catalogues(), ancre=ancre)
+            self.assertIn("Ligne 2", navigateur.texte("#titre-enregistrement"), ancre)
+        self.assertIn("pas d’entrée de ce nom", navigateur.texte("dialog[open]"))
 
     def test_catalogue(self):
         self.ouvrir(donnees.petit(), deux_catalogues())
@@ -335,11 +404,26 @@ class Clavier(Rapport):
         self.assertEqual(self.foyer(), "#constats")
         navigateur.touche("Enter")
         self.assertEqual(self.foyer(), "#ligne-2")
-        self.assertNotEqual(navigateur.evaluer("getComputedStyle(document.activeElement).outlineStyle"), "none")
-        for touche, attendu in (("ArrowDown", [1]), ("ArrowDown", [2]), ("End", [4]), ("ArrowDown", [4]), ("Home", [0]), ("ArrowUp", [0]), ("End", [4])):
+        self.assertNotEqual(
+            navigateur.evaluer("getComputedStyle(document.activeElement).outlineStyle"), "none"
+        )
+        for touche, attendu in (
+            ("ArrowDown", [1]),
+            ("ArrowDown", [2]),
+            ("End", [4]),
+            ("ArrowDown", [4]),
+            ("Home", [0]),
+            ("ArrowUp", [0]),
+            ("End", [4]),
+        ):
             navigateur.touche(touche)
-            self.assertEqual(navigateur.evaluer("[...document.querySelectorAll('tr.constat')].flatMap((t, i) => t.contains(document.activeElement) ? [i] : [])"),
-                             attendu, touche)
+            self.assertEqual(
+                navigateur.evaluer(
+                    "[...document.querySelectorAll('tr.constat')].flatMap((t, i) => t.contains(document.activeElement) ? [i] : [])"
+                ),
+                attendu,
+                touche,
+            )
         navigateur.touche("Enter")
         self.assertEqual(self.foyer(), "titre-enregistrement")
         self.assertIn("Ligne 3", navigateur.texte("#titre-enregistrement"))
@@ -358,15 +442,46 @@ class Clavier(Rapport):
     def test_lecteur_d_ecran(self):
         """Landmarks, one h1, headings without a gap, names of controls, a live count."""
         self.ouvrir(donnees.plusieurs(), deux_catalogues())
-        niveaux = [int(n) for n in navigateur.evaluer("[...document.querySelectorAll('h1,h2,h3,h4')].map((h) => h.tagName[1])")]
+        niveaux = [
+            int(n)
+            for n in navigateur.evaluer(
+                "[...document.querySelectorAll('h1,h2,h3,h4')].map((h) => h.tagName[1])"
+            )
+        ]
         self.assertEqual(niveaux.count(1), 1)
         self.assertEqual([(a, b) for a, b in zip(niveaux, niveaux[1:]) if b > a + 1 and (a, b) != (2, 4)], [])
-        self.assertEqual([navigateur.compter(s) for s in ("main", "header.page", "form[role=search]", "#compte[aria-live=polite]")], [1, 1, 1, 1])
-        self.assertEqual(navigateur.evaluer("[...document.querySelectorAll('input, select')].filter((e) => !e.labels.length).length"), 0)
+        self.assertEqual(
+            [
+                navigateur.compter(s)
+                for s in ("main", "header.page", "form[role=search]", "#compte[aria-live=polite]")
+            ],
+            [1, 1, 1, 1],
+        )
+        self.assertEqual(
+            navigateur.evaluer(
+                "[...document.querySelectorAll('input, select')].filter((e) => !e.labels.length).length"
+            ),
+            0,
+        )
         self.assertEqual(navigateur.compter("table.constats th[scope=col]"), 4)
-        self.assertEqual(navigateur.evaluer("[...document.querySelectorAll('button, a')].filter((e) => !(e.innerText.trim() || e.ariaLabel)).length"), 0)
-        self.assertEqual(navigateur.evaluer("(() => { const ids = [...document.querySelectorAll('[id]')].map((e) => e.id); return ids.length - new Set(ids).size; })()"), 0)
-        self.assertEqual(navigateur.evaluer("[...document.querySelectorAll('[aria-labelledby]')].filter((e) => !document.getElementById(e.getAttribute('aria-labelledby'))).length"), 0)
+        self.assertEqual(
+            navigateur.evaluer(
+                "[...document.querySelectorAll('button, a')].filter((e) => !(e.innerText.trim() || e.ariaLabel)).length"
+            ),
+            0,
+        )
+        self.assertEqual(
+            navigateur.evaluer(
+                "(() => { const ids = [...document.querySelectorAll('[id]')].map((e) => e.id); return ids.length - new Set(ids).size; })()"
+            ),
+            0,
+        )
+        self.assertEqual(
+            navigateur.evaluer(
+                "[...document.querySelectorAll('[aria-labelledby]')].filter((e) => !document.getElementById(e.getAttribute('aria-labelledby'))).length"
+            ),
+            0,
+        )
 
 
 class Surete(Rapport):
@@ -381,25 +496,33 @@ class Surete(Rapport):
             contenu = re.search(rf"<{balise}>(.*?)</{balise}>", texte, re.S)[1]
             condense = base64.b64encode(hashlib.sha256(contenu.encode()).digest()).decode()
             self.assertIn(f"{directive} 'sha256-{condense}';", csp)
-        self.assertEqual(navigateur.evaluer("getComputedStyle(document.querySelector('main')).display"), "grid")
+        self.assertEqual(
+            navigateur.evaluer("getComputedStyle(document.querySelector('main')).display"), "grid"
+        )
         self.plaintes_attendues = True
-        essais = navigateur.evaluer("""new Promise(async (fini) => {
+        essais = navigateur.evaluer(
+            """new Promise(async (fini) => {
             const vus = [];
             document.addEventListener('securitypolicyviolation', (e) => vus.push(e.effectiveDirective));
             const s = document.createElement('script'); s.textContent = 'window.intrus = 1'; document.body.append(s);
             const b = document.createElement('b'); b.setAttribute('style', 'color: red'); b.setAttribute('onclick', 'window.intrus = 2'); document.body.append(b); b.click();
             const i = new Image(); i.src = 'http://localhost:9/x.png';
             await fetch('http://localhost:9/').catch(() => 0);
-            setTimeout(() => fini([typeof window.intrus, vus.sort()]), 100); })""")
+            setTimeout(() => fini([typeof window.intrus, vus.sort()]), 100); })"""
+        )
         self.assertEqual(essais[0], "undefined")
-        self.assertEqual(set(essais[1]), {"script-src-elem", "script-src-attr", "style-src-attr", "img-src", "connect-src"})
+        self.assertEqual(
+            set(essais[1]), {"script-src-elem", "script-src-attr", "style-src-attr", "img-src", "connect-src"}
+        )
 
     def test_politique_sans_notre_style(self):
         """A style or a script that was changed is not taken."""
         self.plaintes_attendues = True
         page = empaqueter.page(donnees.petit(), None, "fr")
         self.ouvrir(None, page=page.replace("main { display: grid;", "main { display: flex;", 1))
-        self.assertEqual(navigateur.evaluer("getComputedStyle(document.querySelector('main')).display"), "block")
+        self.assertEqual(
+            navigateur.evaluer("getComputedStyle(document.querySelector('main')).display"), "block"
+        )
         self.ouvrir(None, page=page.replace('"use strict";', '"use strict"; ', 1))
         self.assertEqual(navigateur.compter("h1"), 0)
 
@@ -411,9 +534,14 @@ class Surete(Rapport):
         self.assertIn("<script>nom</script>\\u202Eesv.vse", navigateur.texte("#resume"))
         for i, v in enumerate(donnees.HOSTILE[:5]):
             montre = v.replace("\u202e", "\\u202E").replace("\u202c", "\\u202C")
-            self.assertIn(montre, navigateur.evaluer(f"document.querySelectorAll('tr.constat')[{i}].textContent"))
+            self.assertIn(
+                montre, navigateur.evaluer(f"document.querySelectorAll('tr.constat')[{i}].textContent")
+            )
             navigateur.cliquer(f"a[href='#ligne-{i + 2}']")
-            self.assertIn(montre, navigateur.evaluer("document.querySelector('#enregistrement .explication').textContent"))
+            self.assertIn(
+                montre,
+                navigateur.evaluer("document.querySelector('#enregistrement .explication').textContent"),
+            )
         self.assertEqual(navigateur.evaluer("/[\\u202a-\\u202e]/.test(document.body.textContent)"), False)
         navigateur.cliquer("a[href='#ligne-7']")
         self.assertLess(navigateur.evaluer("document.querySelector('#vue').scrollWidth - innerWidth"), 1)
@@ -433,8 +561,10 @@ class Construction(unittest.TestCase):
         if not options.source:
             self.skipTest("--source is not given")
         source = pathlib.Path(options.source).read_text(encoding="utf-8")
-        parties = {nom: bytes.fromhex("".join(re.findall(r"'\\x([0-9a-f]{2})'", octets))).decode()
-                   for nom, octets in re.findall(r"constexpr char octets(\w+)\[\] = \{\n(.*?)\n\};", source, re.S)}
+        parties = {
+            nom: bytes.fromhex("".join(re.findall(r"'\\x([0-9a-f]{2})'", octets))).decode()
+            for nom, octets in re.findall(r"constexpr char octets(\w+)\[\] = \{\n(.*?)\n\};", source, re.S)
+        }
         self.assertEqual(list(parties), ["pageDebut", "pageRapport", "pageCatalogue", "pageFin"])
         for (nom, octets), attendus in zip(parties.items(), empaqueter.parties()):
             self.assertTrue(octets == attendus, f"{nom}: {len(octets)} characters, expected {len(attendus)}")
@@ -456,21 +586,34 @@ class Grand(Rapport):
         self.filtrer("7812349999")
         self.assertTrue(self.lignes())
         navigateur.cliquer("tr.constat a")
-        self.assertIn(f"Ligne {self.lignes()[0][0]} ", navigateur.texte("#titre-enregistrement").replace("\u202f", ""))
+        self.assertIn(
+            f"Ligne {self.lignes()[0][0]} ", navigateur.texte("#titre-enregistrement").replace("\u202f", "")
+        )
         self.filtrer("")
         navigateur.cliquer("button.plus")
         self.assertEqual(navigateur.compter("tr.constat"), 180)
-        filtres = navigateur.evaluer("performance.getEntriesByName('quilvane:filtrer').map((m) => m.duration)")
-        print(f"\n{len(constats)} findings, {self.chemin.stat().st_size / 1e6:.1f} MB: first paint of the report after {premiere:.0f} ms, "
-              f"filtering {max(filtres):.0f} ms at most")
+        filtres = navigateur.evaluer(
+            "performance.getEntriesByName('quilvane:filtrer').map((m) => m.duration)"
+        )
+        print(
+            f"\n{len(constats)} findings, {self.chemin.stat().st_size / 1e6:.1f} MB: first paint of the report after {premiere:.0f} ms, "
+            f"filtering {max(filtres):.0f} ms at most"
+        )
         navigateur.evaluer("dispatchEvent(new Event('beforeprint'))")
         self.assertEqual(navigateur.compter("tr.constat"), 2000)
-        self.assertIn("2\u202f000 points sur", navigateur.evaluer("document.querySelector('.note.imprime').textContent"))
+        self.assertIn(
+            "2\u202f000 points sur", navigateur.evaluer("document.querySelector('.note.imprime').textContent")
+        )
 
 
 class Milieux(Rapport):
     def test_clair(self):
-        for nom, rapport in (("clair", donnees.petit()), ("accepte", donnees.accepte()), ("fatal", donnees.fatal()), ("plusieurs", donnees.plusieurs())):
+        for nom, rapport in (
+            ("clair", donnees.petit()),
+            ("accepte", donnees.accepte()),
+            ("fatal", donnees.fatal()),
+            ("plusieurs", donnees.plusieurs()),
+        ):
             self.ouvrir(rapport, deux_catalogues())
             self.photo(nom)
 
@@ -489,11 +632,20 @@ class Milieux(Rapport):
             navigateur.milieu(largeur, 800)
             self.assertEqual(navigateur.evaluer("document.documentElement.scrollWidth"), largeur)
             # The ruler is cut into pieces that fit.
-            self.assertEqual(navigateur.evaluer("Math.max(...[...document.querySelectorAll('.piece .texte')].map((p) => p.textContent.length))"), 32)
+            self.assertEqual(
+                navigateur.evaluer(
+                    "Math.max(...[...document.querySelectorAll('.piece .texte')].map((p) => p.textContent.length))"
+                ),
+                32,
+            )
         navigateur.milieu(380, 800)
         self.photo("etroit")
         navigateur.cliquer("tr.constat[data-ligne='3'] a")
-        self.assertTrue(navigateur.evaluer("document.querySelector('#titre-enregistrement').getBoundingClientRect().top < innerHeight"))
+        self.assertTrue(
+            navigateur.evaluer(
+                "document.querySelector('#titre-enregistrement').getBoundingClientRect().top < innerHeight"
+            )
+        )
 
     def test_imprime(self):
         self.ouvrir(donnees.petit(), deux_catalogues())
@@ -502,8 +654,12 @@ class Milieux(Rapport):
         navigateur.evaluer("dispatchEvent(new Event('beforeprint'))")
         navigateur.milieu(700, 1000, imprime=True)
         self.assertEqual(navigateur.textes(".fiche-imprimee h3"), ["Ligne 2 NAIS CRE", "Ligne 3 NAIS MOD"])
-        self.assertEqual(navigateur.evaluer("getComputedStyle(document.querySelector('#enregistrement')).display"), "none")
-        self.assertEqual(navigateur.evaluer("getComputedStyle(document.querySelector('.filtres')).display"), "none")
+        self.assertEqual(
+            navigateur.evaluer("getComputedStyle(document.querySelector('#enregistrement')).display"), "none"
+        )
+        self.assertEqual(
+            navigateur.evaluer("getComputedStyle(document.querySelector('.filtres')).display"), "none"
+        )
         self.assertIn("Écrivez 1 pour un mâle", navigateur.texte("tr.constat[data-champ=C4]"))
         self.photo("imprime")
         navigateur.milieu()
