@@ -7,6 +7,7 @@
     const el = Q.el;
     const TRANCHE = 60;
     const IMPRIMES = 2000;
+    const TYPES_A_CHOISIR = 100; // a file of anything has many that do not exist
 
     function ligneDeTableau(indice, contexte) {
         const { textes, fichier, mots, ancre } = contexte;
@@ -112,7 +113,9 @@
         ]);
         const types = choix("filtre-type", textes.type, [
             ["", textes.tous],
-            ...fichier.parType.map((t, i) => [`t${i}`, Q.visible(t.cle || "") || textes.sansType]),
+            ...fichier.parType
+                .slice(0, TYPES_A_CHOISIR)
+                .map((t, i) => [`t${i}`, Q.visible(t.cle || "") || textes.sansType]),
         ]);
         const causes = el("input#filtre-causes", { type: "checkbox" });
         const effacer = el("button.discret", { type: "button", hidden: true }, textes.effacer);

@@ -73,8 +73,8 @@
         );
         if (!rapports.length) return null;
         const catalogues = liste(catalogue).filter((c) => c && c.format === "quilvane-catalogue/1");
-        const langues = [...new Set([...rapports, ...catalogues].map((x) => x.langue))].filter(
-            (l) => Q.textes[l],
+        const langues = Object.keys(Q.textes).filter((l) =>
+            [...rapports, ...catalogues].some((x) => x.langue === l),
         );
         const prets = new Map();
         return {

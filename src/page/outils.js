@@ -23,6 +23,24 @@
         return e;
     };
 
+    const LIGNES_DE_RESTE = 500;
+    /**
+     * A list of class `classe` that opens on demand and is filled only then.
+     * `element` makes the entry of one of `donnees`; what is left out behind the
+     * first five hundred is said in words.
+     */
+    Q.reste = function (sommaire, classe, donnees, element, textes) {
+        const liste = Q.el(`ul.${classe}`);
+        const details = Q.el("details", null, Q.el("summary", null, sommaire), liste);
+        const remplir = () => {
+            liste.append(...donnees.slice(0, LIGNES_DE_RESTE).map(element));
+            const omis = donnees.length - LIGNES_DE_RESTE;
+            if (omis > 0) details.append(Q.el("p.note", null, textes.omis(omis)));
+        };
+        details.addEventListener("toggle", remplir, { once: true });
+        return details;
+    };
+
     const FORMES = {
         accepte: "M5 12.5l4.5 4.5L19 7.5",
         corriger: "M12 6v7.5M12 17.2v.6",

@@ -212,11 +212,12 @@
             el("h2#titre-avertissements", null, textes.avertissements(tous.length)),
             el("ul.avertissements", null, tous.slice(0, AVERTISSEMENTS).map(ligne)),
             tous.length > AVERTISSEMENTS
-                ? el(
-                      "details",
-                      null,
-                      el("summary", null, textes.autresAvertissements(tous.length - AVERTISSEMENTS)),
-                      el("ul.avertissements", null, tous.slice(AVERTISSEMENTS).map(ligne)),
+                ? Q.reste(
+                      textes.autresAvertissements(tous.length - AVERTISSEMENTS),
+                      "avertissements",
+                      tous.slice(AVERTISSEMENTS),
+                      ligne,
+                      textes,
                   )
                 : null,
         );
@@ -229,18 +230,18 @@
         const { textes, filtre } = vue;
         const plusGrand = Math.max(...comptes.map((c) => c.n));
         const bouton = (c) => {
+            const valeur = champ === "numero" ? String(c.cle) : c.cle;
             const barre = el("span.barre", { "aria-hidden": "true" }, el("span"));
             barre.firstChild.style.width = `${Math.max(1, (100 * c.n) / plusGrand)}%`;
             const b = el(
                 "button.compte",
-                { type: "button", "aria-pressed": "false", "data-cle": c.cle },
+                { type: "button", "aria-pressed": String(filtre[champ] === valeur), "data-cle": c.cle },
                 el("span.nom", null, nom(c)),
                 " ",
                 el("span.n", null, textes.nombre(c.n)),
                 barre,
             );
             b.addEventListener("click", () => {
-                const valeur = champ === "numero" ? String(c.cle) : c.cle;
                 filtre[champ] = filtre[champ] === valeur ? (champ === "numero" ? "" : null) : valeur;
                 vue.liste.filtrer();
             });
@@ -254,12 +255,7 @@
             el("h3", null, titre),
             liste,
             reste.length
-                ? el(
-                      "details",
-                      null,
-                      el("summary", null, textes.voirToutesBarres(reste.length)),
-                      el("ul.barres", null, reste.map(bouton)),
-                  )
+                ? Q.reste(textes.voirToutesBarres(reste.length), "barres", reste, bouton, textes)
                 : null,
         );
     }
