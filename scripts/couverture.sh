@@ -4,7 +4,7 @@
 set -euo pipefail
 . "$(dirname "$0")/paquets.sh"
 cd "$racine"
-exiger g++ cmake ninja-build libgtest-dev faketime gcovr python3
+exiger g++ cmake ninja-build rapidjson-dev nettle-dev libgtest-dev faketime gcovr python3
 construire coverage
 find build/coverage -name "*.gcda" -delete
 ctest --preset coverage -j "$(nproc)" --progress || arreter "tests failed under preset coverage"
