@@ -101,12 +101,12 @@ bool memeFichier(int dossierA, const std::string& a, int dossierB, const std::st
 
 eDeplacement deplacer(int de, const std::string& nom, int vers, const std::string& nouveau) {
     if (renameat2(de, nom.c_str(), vers, nouveau.c_str(), RENAME_NOREPLACE) == 0) return DEPLACE;
-    if (errno == EINVAL || errno == ENOSYS) {
-        if (linkat(de, nom.c_str(), vers, nouveau.c_str(), 0) == 0 ||
-            (errno == EEXIST && memeFichier(de, nom, vers, nouveau)))
-            return unlinkat(de, nom.c_str(), 0) == 0 ? DEPLACE : DEPLACEMENT_REFUSE;
-    }
-    return errno == EEXIST ? NOM_PRIS : DEPLACEMENT_REFUSE;
+    const bool sansRenommage = errno == EINVAL || errno == ENOSYS;
+    const bool lie = sansRenommage && linkat(de, nom.c_str(), vers, nouveau.c_str(), 0) == 0;
+    if (!lie && errno != EEXIST) return DEPLACEMENT_REFUSE;
+    // A move by a link that was cut short left the file under both names.
+    if (!lie && !memeFichier(de, nom, vers, nouveau)) return NOM_PRIS;
+    return unlinkat(de, nom.c_str(), 0) == 0 ? DEPLACE : DEPLACEMENT_REFUSE;
 }
 
 bool lister(int dossier, std::vector<std::string>& noms) {

@@ -107,9 +107,9 @@ const texte RAISON_QUE_FAIRE = {
 const texte RAISON_ARCHIVE = {"Copie dans l'archive :", "Copy in the archive:"};
 const texte RAISON_ID = {"Ligne du journal (id) :", "Line of the journal (id):"};
 
-const texte LIGNE_EMIS = {"accepté  %1 (%2 enregistrement(s))", "accepted %1 (%2 record(s))"};
-const texte LIGNE_REJETS = {"refusé   %1 (%2 enregistrement(s) refusé(s) sur %3 ; erreurs : %4)",
-                            "refused  %1 (%2 of %3 record(s) refused; errors: %4)"};
+const texte LIGNE_EMIS = {"accepté  %1 ; enregistrements : %2", "accepted %1; records: %2"};
+const texte LIGNE_REJETS = {"refusé   %1 ; enregistrements : %2 refusés sur %3 ; erreurs : %4",
+                            "refused  %1; records: %2 refused of %3; errors: %4"};
 const texte LIGNE_ECHECS = {"échec    %1 : %2", "failed   %1: %2"};
 const texte LIGNE_RENDU = {"remis    %1 (retour dans arrivee)", "put back %1 (stands in arrivee again)"};
 const texte LIGNE_REPRIS = {" [repris d'un passage interrompu]",
@@ -121,21 +121,20 @@ const texte BARRE_DEBIT = {" ; %1 par s", "; %1 a s"};
 const texte BARRE_RESTE = {" ; reste %1", "; %1 left"};
 
 const texte BILAN_RIEN = {"Aucun fichier à traiter.", "No file to process."};
-const texte BILAN_TITRE = {
-    "%1 fichier(s) en %2 s (%3 par seconde) : %4 accepté(s), %5 refusé(s), %6 en échec.",
-    "%1 file(s) in %2 s (%3 a second): %4 accepted, %5 refused, %6 failed."};
-const texte BILAN_REPRIS = {"%1 repris de passages interrompus.",
-                            "%1 taken over from runs that were cut short."};
-const texte BILAN_RENDUS = {"%1 remis dans arrivee.", "%1 put back into arrivee."};
-const texte BILAN_NON_REPOSES = {"%1 laissé(s) dans arrivee : modifié(s) il y a moins de %2 s.",
-                                 "%1 left in arrivee: touched less than %2 s ago."};
+const texte BILAN_TITRE = {"Fichiers : %1 en %2 s (%3 par seconde) ; %4 acceptés, %5 refusés, %6 en échec.",
+                           "Files: %1 in %2 s (%3 a second); %4 accepted, %5 refused, %6 failed."};
+const texte BILAN_REPRIS = {"Repris de passages interrompus : %1.",
+                            "Taken over from runs that were cut short: %1."};
+const texte BILAN_RENDUS = {"Remis dans arrivee : %1.", "Put back into arrivee: %1."};
+const texte BILAN_NON_REPOSES = {"Laissés dans arrivee, modifiés il y a moins de %2 s : %1.",
+                                 "Left in arrivee, touched less than %2 s ago: %1."};
 const texte BILAN_PANNES = {
-    "%1 incident(s) : les fichiers concernés sont dans arrivee ou encours et seront repris.",
-    "%1 incident(s): the files concerned are in arrivee or encours and will be taken up again."};
-const texte BILAN_GARDES = {"Archive : %1 jour(s) retiré(s).", "Archive: %1 day(s) removed."};
+    "Incidents : %1. Les fichiers concernés sont dans arrivee ou encours et seront repris.",
+    "Incidents: %1. The files concerned are in arrivee or encours and will be taken up again."};
+const texte BILAN_GARDES = {"Archive : jours retirés : %1.", "Archive: days removed: %1."};
 const texte BILAN_RESTES = {
-    "Archive : %1 jour(s) non retiré(s), ils contiennent des dossiers ou sont protégés.",
-    "Archive: %1 day(s) not removed, they hold folders or are protected."};
+    "Archive : jours non retirés, car ils contiennent des dossiers ou sont protégés : %1.",
+    "Archive: days not removed, because they hold folders or are protected: %1."};
 
 const texte AVIS_SANS_GUIDE = {
     "quilvane-guide n'est pas installé : les fichiers refusés n'auront pas de rapport",

@@ -18,6 +18,7 @@ namespace {
 constexpr std::size_t TAILLE_MAX = 1 << 20;
 constexpr int ESSAIS = 1000;
 
+/** Whether a file is there, as far as can be told: what cannot be looked at is. */
 bool existe(int dossier, const std::string& nom) {
     struct stat s = {};
     return fstatat(dossier, nom.c_str(), &s, AT_SYMLINK_NOFOLLOW) == 0 || errno != ENOENT;
@@ -31,16 +32,23 @@ std::vector<publication*> restants(const casier& c, verdict& v) {
     return r;
 }
 
-void nommer(const depot& d, const casier& c, verdict& v) {
+/** Gives the files that are left the first number under which all names are free. */
+bool nommer(const depot& d, const casier& c, verdict& v, faute& f) {
     const std::vector<publication*> reste = restants(c, v);
     for (int n = 0; n < INT_MAX; ++n) {
         bool libre = true;
         for (publication* const p : reste) {
             p->cible = nomNumerote(v.nom, n, p->suffixe);
-            libre = libre && !existe(d.lieu(p->lieu), p->cible);
+            struct stat s = {};
+            if (fstatat(d.lieu(p->lieu), p->cible.c_str(), &s, AT_SYMLINK_NOFOLLOW) == 0)
+                libre = false;
+            else if (errno != ENOENT)
+                return echouer(f, ETAPE_PUBLIER, p->cible);
         }
-        if (libre) return;
+        if (libre) return true;
     }
+    errno = EEXIST;
+    return echouer(f, ETAPE_PUBLIER, v.nom);
 }
 
 /** Synchronises the folders out of which files were moved. */
@@ -90,7 +98,7 @@ bool lireVerdict(const casier& c, verdict& v) {
 }
 
 bool ecrireVerdict(const depot& d, const casier& c, verdict& v, faute& f) {
-    nommer(d, c, v);
+    if (!nommer(d, c, v, f)) return false;
     std::string octets = v.json + '\0' + v.nom + '\0';
     for (const publication& p : v.fichiers)
         octets += p.source + '\0' + LIEUX[p.lieu] + '\0' + p.suffixe + '\0' + p.cible + '\0';
