@@ -177,13 +177,10 @@ bool relireBilan(const std::string& json, bilan& b) {
     doc.Parse((json + "}").c_str());
     if (doc.HasParseError() || !doc.IsObject()) return false;
     const auto nombre = [&doc](const char* cle) {
-        const auto m = doc.FindMember(cle);
-        return m != doc.MemberEnd() && m->value.IsInt64() ? static_cast<long>(m->value.GetInt64()) : 0L;
+        return doc.HasMember(cle) && doc[cle].IsInt64() ? static_cast<long>(doc[cle].GetInt64()) : 0L;
     };
     const auto mot = [&doc](const char* cle) {
-        const auto m = doc.FindMember(cle);
-        return m != doc.MemberEnd() && m->value.IsString() ? std::string(m->value.GetString())
-                                                           : std::string();
+        return doc.HasMember(cle) && doc[cle].IsString() ? std::string(doc[cle].GetString()) : std::string();
     };
     b.issue = ISSUE_AUCUNE;
     for (const eIssue i : {ISSUE_EMIS, ISSUE_REJETS, ISSUE_ECHECS})
@@ -194,11 +191,13 @@ bool relireBilan(const std::string& json, bilan& b) {
     b.c.enregistrements = nombre("enregistrements");
     b.c.acceptes = nombre("acceptes");
     b.c.refuses = nombre("refuses");
-    const auto erreurs = doc.FindMember("erreurs");
-    if (erreurs != doc.MemberEnd() && erreurs->value.IsObject())
-        for (const auto& e : erreurs->value.GetObject())
-            if (e.value.IsInt64())
-                b.c.erreurs[std::atoi(e.name.GetString())] = static_cast<long>(e.value.GetInt64());
+    if (!doc.HasMember("erreurs") || !doc["erreurs"].IsObject()) return false;
+    const rapidjson::Value& erreurs = doc["erreurs"];
+    for (rapidjson::SizeType i = 0; i < erreurs.MemberCount(); ++i) {
+        const auto& e = *(erreurs.MemberBegin() + static_cast<std::ptrdiff_t>(i));
+        if (e.value.IsInt64())
+            b.c.erreurs[std::atoi(e.name.GetString())] = static_cast<long>(e.value.GetInt64());
+    }
     return b.issue != ISSUE_AUCUNE;
 }
 

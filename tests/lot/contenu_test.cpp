@@ -3,6 +3,8 @@
  */
 #include "lot/contenu.h"
 
+#include <gtest/gtest.h>
+
 #include <filesystem>
 
 #include "support/attendu.h"
