@@ -9,7 +9,7 @@
 set -euo pipefail
 . "$(dirname "$0")/paquets.sh"
 cd "$racine"
-exiger g++ cmake ninja-build libbenchmark-dev hyperfine valgrind gawk time jq
+exiger g++ cmake ninja-build rapidjson-dev nettle-dev libbenchmark-dev hyperfine valgrind gawk time jq
 construire bench
 
 programme=$racine/build/bench/quilvane

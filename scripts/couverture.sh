@@ -4,11 +4,13 @@
 set -euo pipefail
 . "$(dirname "$0")/paquets.sh"
 cd "$racine"
-exiger g++ cmake ninja-build libgtest-dev faketime gcovr python3
+exiger g++ cmake ninja-build rapidjson-dev nettle-dev libgtest-dev faketime gcovr python3
 construire coverage
 find build/coverage -name "*.gcda" -delete
 ctest --preset coverage -j "$(nproc)" --progress || arreter "tests failed under preset coverage"
-gcovr --root . --filter 'src/' --object-directory build/coverage --exclude-throw-branches \
+# The batch runner is measured by the kills of scripts/lot_epreuve.sh: a killed
+# process leaves no counters.
+gcovr --root . --filter 'src/' --exclude 'src/lot/' --object-directory build/coverage --exclude-throw-branches \
     --json build/couverture.json
 gcovr --root . --add-tracefile build/couverture.json --txt
 python3 scripts/couverture.py build/couverture.json scripts/couverture.exclues . || arreter "something is not covered"

@@ -4,7 +4,7 @@
 set -euo pipefail
 . "$(dirname "$0")/paquets.sh"
 cd "$racine"
-exiger g++ cmake ninja-build
+exiger g++ cmake ninja-build rapidjson-dev nettle-dev
 
 cmake --preset release -DQUILVANE_TESTS=OFF -B build/demo >/dev/null || arreter "cannot be configured"
 cmake --build build/demo -- --quiet || arreter "does not build"

@@ -7,7 +7,7 @@
 set -euo pipefail
 . "$(dirname "$0")/paquets.sh"
 cd "$racine"
-exiger clang libclang-rt-dev cmake ninja-build
+exiger clang libclang-rt-dev cmake ninja-build rapidjson-dev nettle-dev
 
 duree=${1:-30}
 [ $# -gt 0 ] && shift

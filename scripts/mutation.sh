@@ -17,5 +17,5 @@
 set -euo pipefail
 . "$(dirname "$0")/paquets.sh"
 cd "$racine"
-exiger g++ cmake ninja-build libgtest-dev faketime python3
+exiger g++ cmake ninja-build rapidjson-dev nettle-dev libgtest-dev faketime python3
 exec python3 scripts/mutation.py "$racine" "${TMPDIR:-/tmp}/quilvane-mutation-$(id -u)" "$@"

@@ -5,7 +5,7 @@
 set -euo pipefail
 . "$(dirname "$0")/paquets.sh"
 cd "$racine"
-exiger g++ clang cmake ninja-build libgtest-dev faketime valgrind
+exiger g++ clang cmake ninja-build rapidjson-dev nettle-dev libgtest-dev faketime valgrind
 
 for compilateur in g++ clang++; do
     for niveau in -O0 -O3; do

@@ -8,7 +8,7 @@ set -euo pipefail
 cd "$racine"
 
 [ $# -gt 0 ] || set -- release sanitize
-paquets=(g++ cmake ninja-build libgtest-dev faketime)
+paquets=(g++ cmake ninja-build rapidjson-dev nettle-dev libgtest-dev faketime)
 case " $* " in *" clang "*) paquets+=(clang) ;; esac
 exiger "${paquets[@]}"
 

@@ -1,0 +1,26 @@
+# Hardening, in every build; what the compiler does not have is left out.
+include(CheckCXXCompilerFlag)
+set(durcissement -fstack-protector-strong)
+foreach(drapeau -fstack-clash-protection -fcf-protection)
+  string(MAKE_C_IDENTIFIER "QUILVANE_A${drapeau}" present)
+  check_cxx_compiler_flag(${drapeau} ${present})
+  if(${present})
+    list(APPEND durcissement ${drapeau})
+  endif()
+endforeach()
+# Checked calls need an optimising compiler and hide faults from the sanitizers.
+if(NOT QUILVANE_SANITIZE)
+  list(APPEND durcissement
+    $<$<CONFIG:Release,RelWithDebInfo,MinSizeRel>:-U_FORTIFY_SOURCE>
+    $<$<CONFIG:Release,RelWithDebInfo,MinSizeRel>:-D_FORTIFY_SOURCE=2>)
+endif()
+set(cibles quilvane_noyau quilvane_produit quilvane_catalogue quilvane_page ${QUILVANE_PROGRAMMES})
+if(TARGET quilvane_lot)
+  list(APPEND cibles quilvane_lot)
+endif()
+foreach(cible ${cibles})
+  target_compile_options(${cible} PRIVATE ${durcissement})
+endforeach()
+foreach(programme ${QUILVANE_PROGRAMMES})
+  target_link_options(${programme} PRIVATE -pie -Wl,-z,relro,-z,now)
+endforeach()
