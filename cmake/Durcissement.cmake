@@ -14,7 +14,8 @@ if(NOT QUILVANE_SANITIZE)
     $<$<CONFIG:Release,RelWithDebInfo,MinSizeRel>:-U_FORTIFY_SOURCE>
     $<$<CONFIG:Release,RelWithDebInfo,MinSizeRel>:-D_FORTIFY_SOURCE=2>)
 endif()
-set(cibles quilvane_noyau quilvane_produit quilvane_catalogue quilvane_page ${QUILVANE_PROGRAMMES})
+set(cibles quilvane_noyau quilvane_produit quilvane_catalogue quilvane_page quilvane_rapport quilvane_aide
+  ${QUILVANE_PROGRAMMES})
 if(TARGET quilvane_lot)
   list(APPEND cibles quilvane_lot)
 endif()

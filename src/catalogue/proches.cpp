@@ -1,6 +1,9 @@
 #include "catalogue/proches.h"
 
 #include <cstddef>
+#include <cstdint>
+#include <unordered_map>
+#include <vector>
 
 namespace quilvane {
 
@@ -67,14 +70,43 @@ eEcart ecart(std::string_view valeur, std::string_view entree) {
     return unDePlus(v, e) || unDePlus(e, v) ? LONGUEUR : LOIN;
 }
 
+/** The characters of a text as bits, blanks apart, after `confondu`. One slip
+ *  adds one bit at most and takes one away. */
+std::uint64_t empreinte(std::string_view texte) {
+    std::uint64_t r = 0;
+    for (const char c : texte)
+        if (c != ' ') r |= std::uint64_t{1} << (confondu(c) & 63);
+    return r;
+}
+
+/** The prints of a list's entries, made at the first look. */
+const std::vector<std::uint64_t>& empreintesDe(const sListe& liste) {
+    static std::unordered_map<const tValAutorise*, std::vector<std::uint64_t>> faites;
+    std::vector<std::uint64_t>& r = faites[liste.entrees];
+    for (int i = static_cast<int>(r.size()) * liste.colonnes; i < liste.nombre; i += liste.colonnes)
+        r.push_back(empreinte(liste.entrees[i].valeur));
+    return r;
+}
+
+/** Whether more than two characters tell the texts apart: more than one slip. */
+constexpr bool tropLoin(std::uint64_t a, std::uint64_t b) {
+    std::uint64_t d = a ^ b;
+    d &= d - 1;
+    d &= d - 1;
+    return d != 0;
+}
+
 }  // namespace
 
 sProches prochesDe(std::string_view valeur, const sListe& liste) {
     sProches proches = {};
     if (sansBlancs(valeur).empty()) return proches;
     eEcart ecarts[MAX_PROCHES] = {};
+    const std::uint64_t deValeur = empreinte(valeur);
+    const std::uint64_t* deEntree = empreintesDe(liste).data();
     for (int i = 0; i < liste.nombre; i += liste.colonnes) {
-        const char* const entree = liste.entrees[i].valeur;
+        if (tropLoin(deValeur, *deEntree++)) continue;
+        const std::string_view entree = liste.entrees[i].valeur;
         if (valeur == entree) return {};
         const eEcart e = ecart(valeur, entree);
         if (e == LOIN || sansBlancs(entree).empty()) continue;
@@ -88,7 +120,7 @@ sProches prochesDe(std::string_view valeur, const sListe& liste) {
             proches.valeurs[j] = proches.valeurs[j - 1];
             ecarts[j] = ecarts[j - 1];
         }
-        proches.valeurs[place] = entree;
+        proches.valeurs[place] = entree.data();
         ecarts[place] = e;
     }
     return proches;

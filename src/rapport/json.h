@@ -1,0 +1,32 @@
+/**
+ * json.h - the parts of a report as JSON.
+ */
+#ifndef QUILVANE_RAPPORT_JSON_H
+#define QUILVANE_RAPPORT_JSON_H
+
+#include <string>
+
+#include "rapport/rapport.h"
+
+namespace quilvane {
+
+/** Adds a record's errors, an object each, with `separateur` between them.
+ *  `premier` is the place of the first in the file's list. `nom`, when given,
+ *  stands first (JSON lines name the file in each). */
+void ajouterConstats(std::string& s, const sRecordVu& r, long long premier, eLangue langue,
+                     std::string_view separateur, const std::string* nom = nullptr);
+
+std::string avertissementJson(const sAvertissement& a);
+
+/** The members of a file's object that are known at its end, without braces. */
+std::string resumeJson(const sResume& r, eLangue langue);
+
+/** A UTF-8 text as a JSON string, quotes included. */
+std::string chaineJson(std::string_view utf8);
+
+/** "table", "cadrage", ... */
+const char* nomDOrigine(eOrigine origine);
+
+}  // namespace quilvane
+
+#endif
