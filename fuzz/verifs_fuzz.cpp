@@ -22,7 +22,6 @@
 #include <memory>
 #include <vector>
 
-
 using namespace quilvane;
 
 namespace {
