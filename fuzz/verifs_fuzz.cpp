@@ -11,6 +11,7 @@
 #include "checks/lecture.h"
 #include "checks/listes.h"
 #include "checks/reference.h"
+#include "checks/sans_ligne.h"
 #include "checks/valautorise.h"
 #include "cible.h"
 #include "messages/aiguillage.h"

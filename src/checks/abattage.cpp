@@ -8,6 +8,7 @@
 #include "checks/identifiants.h"
 #include "checks/lecture.h"
 #include "checks/listes.h"
+#include "checks/sans_ligne.h"
 #include "checks/valautorise.h"
 #include "vocabulaire/store.h"
 
@@ -28,6 +29,8 @@ std::size_t longueurUtile(const char* texte) { return std::strcspn(texte, " "); 
 }  // namespace
 
 int presence_C2(const char*, char*, const liste&) {
+    // Cut here and not with the body: the row of this check is the first that
+    // needs the extract, and one call then does for it and for those behind it.
     getVseCorps();
     return cp.NUME_NATI_BOV[0] != '\0' && !blancs12(cp.NUME_NATI_BOV);
 }

@@ -10,6 +10,7 @@
 #include "checks/coherence.h"
 #include "checks/lecture.h"
 #include "checks/reference.h"
+#include "checks/sans_ligne.h"
 #include "checks/valautorise.h"
 #include "vocabulaire/store.h"
 
