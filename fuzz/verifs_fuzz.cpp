@@ -11,6 +11,7 @@
 #include "checks/lecture.h"
 #include "checks/listes.h"
 #include "checks/reference.h"
+#include "checks/sans_ligne.h"
 #include "checks/valautorise.h"
 #include "cible.h"
 #include "messages/aiguillage.h"
@@ -21,7 +22,6 @@
 #include <cstring>
 #include <memory>
 #include <vector>
-
 
 using namespace quilvane;
 

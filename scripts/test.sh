@@ -11,6 +11,7 @@ cd "$racine"
 paquets=(g++ cmake ninja-build rapidjson-dev nettle-dev libgtest-dev faketime)
 case " $* " in *" clang "*) paquets+=(clang) ;; esac
 exiger "${paquets[@]}"
+scripts/style.sh
 
 for preset in "$@"; do
     echo "== $preset"

@@ -43,13 +43,6 @@ fVerif fVerif_NUMID_ABATNOT_CONF;
 fVerif fVerif_NUMID_ABATNOT_COHER;
 fVerif fVerif_NUMID_ABATNOT_TABREF;
 fVerif fVerif_INDIC_ABAT;
-/** Always passes. Named by no row. */
-fVerif return_true;
-/** The digits of the notifier identification are those of the input file's
- *  name (`bufC11`), or body C11 is a national or Corsican one. Named by no row. */
-fVerif fichier_C11;
-/** Exactly "10" or two blanks. Named by no row. */
-fVerif verifSpace;
 
 }  // namespace quilvane
 

@@ -19,8 +19,6 @@ fVerif fCoherenCC_tr;
 /** A three-character department equals that of the body in the dependency;
  *  "098" goes with "974". Error 50 of DETE. */
 fVerif fCoherenCCD;
-/** Two departments are equal or of one department group. Named by no row. */
-fVerif fCoherenCCDR;
 /** The file's emitter may send for the departmental body `codeDep` (both 8):
  *  equal, a national emitter, or a row of `TEDC`. Error 135. */
 int fCoherenCCE(const char* emetteur, const char* codeDep);

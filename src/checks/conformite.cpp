@@ -9,6 +9,7 @@
 #include "checks/lecture.h"
 #include "checks/listes.h"
 #include "checks/reference.h"
+#include "checks/sans_ligne.h"
 #include "checks/valautorise.h"
 #include "vocabulaire/store.h"
 
@@ -42,8 +43,6 @@ int caracDansListe(const char* champ, int col, const liste& sverif) {
     const char texte[2] = {carac(champ, col), '\0'};
     return dansListe(texte, sverif);
 }
-
-bool modeleBlanc(const char* champ) { return egal(champ, HuitBlancs[0].valeur); }
 
 }  // namespace
 
@@ -148,19 +147,19 @@ int fConform_OC_model4(const char*, char* champ, const liste& sverif) {
 int fConform_OC_model5(const char*, char* champ, const liste&) { return chiffres(champ, 4, 6); }
 
 int fConform_BV_model2(const char* dependance, char* champ, const liste& sverif) {
-    return modeleBlanc(champ) || fConform_OC_model2(dependance, champ, sverif);
+    return huitBlancs(champ) || fConform_OC_model2(dependance, champ, sverif);
 }
 
 int fConform_BV_model3(const char* dependance, char* champ, const liste& sverif) {
-    return modeleBlanc(champ) || fConform_OC_model3(dependance, champ, sverif);
+    return huitBlancs(champ) || fConform_OC_model3(dependance, champ, sverif);
 }
 
 int fConform_BV_model4(const char* dependance, char* champ, const liste& sverif) {
-    return modeleBlanc(champ) || fConform_OC_model4(dependance, champ, sverif);
+    return huitBlancs(champ) || fConform_OC_model4(dependance, champ, sverif);
 }
 
 int fConform_BV_model5(const char* dependance, char* champ, const liste& sverif) {
-    return modeleBlanc(champ) || fConform_OC_model5(dependance, champ, sverif);
+    return huitBlancs(champ) || fConform_OC_model5(dependance, champ, sverif);
 }
 
 int fConform_OC_pays_orig(const char* dependance, char* champ, const liste&) {

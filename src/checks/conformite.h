@@ -19,10 +19,6 @@ fVerif fConform10;
 /** As `fConform10`, and columns 7 to 10 are not "0000". Serves NAIS, NVMN and
  *  IMPO. Errors 67 and 118. */
 fVerif fConform10NonNul;
-/** Eight digits with a listed department, whatever follows. Named by no row. */
-fVerif fConform8C;
-/** Ten digits with a listed department, whatever follows. Named by no row. */
-fVerif fConform;
 /** Country (dependency) "FR": as `fConform8`; any other country passes. Error 68. */
 fVerif fConform8FR;
 /** Country "FR" or two blanks passes; otherwise no blank before the trailing

@@ -10,6 +10,7 @@
 #include "checks/coherence.h"
 #include "checks/lecture.h"
 #include "checks/reference.h"
+#include "checks/sans_ligne.h"
 #include "checks/valautorise.h"
 #include "vocabulaire/store.h"
 
@@ -17,7 +18,6 @@ namespace quilvane {
 
 namespace {
 
-bool dateBlanche(const char* date) { return egal(date, HuitBlancs[0].valeur); }
 bool jourBlanc(const char* date) { return memeDebut(date, "  ", 2); }
 bool moisBlanc(const char* date) { return memeDebut(aPartirDe(date, 3), "  ", 2); }
 bool depuis(const char* date, const liste& reference) { return fVTABP(date, reference[0].valeur); }
@@ -35,7 +35,7 @@ int fDATEC(const char*, char* champ, const liste&) { return fDATECouI(champ, COM
 int fDATEI(const char*, char* champ, const liste&) { return fDATECouI(champ, INCOMPLETE); }
 
 int fDATECxad(const char*, char* champ, const liste&) {
-    return dateBlanche(champ) || fDATECouI(champ, COMPLETE);
+    return huitBlancs(champ) || fDATECouI(champ, COMPLETE);
 }
 
 int fDatRecCorr(const char* dependance, char* champ, const liste& sverif) {
@@ -51,11 +51,11 @@ int fDATEC_xad(const char* dependance, char* champ, const liste& sverif) {
 }
 
 int fDatRecCorr_O(const char*, char* champ, const liste&) {
-    return !dateBlanche(champ) && fDATECouI(champ, COMPLETE);
+    return !huitBlancs(champ) && fDATECouI(champ, COMPLETE);
 }
 
 int fDatRecCorr_O_P18(const char* dependance, char* champ, const liste&) {
-    return dateBlanche(champ) ? !depuis(dependance, P18) : fDATECouI(champ, COMPLETE);
+    return huitBlancs(champ) ? !depuis(dependance, P18) : fDATECouI(champ, COMPLETE);
 }
 
 int fDATEP6(const char*, char* champ, const liste&) {
@@ -75,11 +75,11 @@ int fDATEP6P7(const char*, char* champ, const liste&) {
 }
 
 int fDatRecCohe(const char* dependance, char* champ, const liste&) {
-    return dateBlanche(champ) || fCoherenDCSupInf(dependance, champ, INF);
+    return huitBlancs(champ) || fCoherenDCSupInf(dependance, champ, INF);
 }
 
 int fDatRecPost(const char* dependance, char* champ, const liste&) {
-    return dateBlanche(champ) || fCoherenDCSupInf(dependance, champ, SUP);
+    return huitBlancs(champ) || fCoherenDCSupInf(dependance, champ, SUP);
 }
 
 int fDatRecPost_tr(const char* dependance, char* champ, const liste& sverif) {
@@ -87,7 +87,7 @@ int fDatRecPost_tr(const char* dependance, char* champ, const liste& sverif) {
 }
 
 int fDatRec_OC_Post(const char* dependance, char* champ, const liste&) {
-    if (dateBlanche(champ)) return 1;
+    if (huitBlancs(champ)) return 1;
     const char* const depuisAnnee = aPartirDe(champ, 5);
     char annee[5] = {};
     std::memcpy(annee, depuisAnnee, strnlen(depuisAnnee, 4));
@@ -150,7 +150,7 @@ int fVerifDateAbatPost(const char*, char* champ, const liste&) {
 
 int fVerifDateAbatPostEntr(const char*, char* champ, const liste&) {
     const char* const entree = cp.DATE_ENTREE_ABAT;
-    if (dateBlanche(entree) || dateBlanche(champ)) return 1;
+    if (huitBlancs(entree) || huitBlancs(champ)) return 1;
     const long long annees = nombre(entree, 5, 4) - nombre(champ, 5, 4);
     if (annees != 0) return annees < 0;
     const long long mois = nombre(entree, 3, 2) - nombre(champ, 3, 2);

@@ -20,12 +20,8 @@ fVerif fDATECxad;
 fVerif fDatRecCorr;
 /** Eight leading blanks, or complete. Errors 5 and 22 of ERRE. */
 fVerif fDATEC_INC;
-/** Exactly eight characters: blank or complete. Named by no row. */
-fVerif fDATEC_xad;
 /** Complete; a blank receipt date fails. Error 134. */
 fVerif fDatRecCorr_O;
-/** Complete, or blank when the dependency date is before `P18`. Named by no row. */
-fVerif fDatRecCorr_O_P18;
 /** Day and month compulsory from `P6` on, incomplete accepted before. Errors
  *  22 and 58. */
 fVerif fDATEP6;
@@ -46,15 +42,9 @@ fVerif fDatRec_OC_Post;
 fVerif fVerifValAutDate;
 /** A time HHMMSS, 000000 to 235959. Errors 91 (footer) and 103. */
 fVerif fHEUREC;
-/** The moment of date (dependency) and time (`champ`) is strictly past, local
- *  time, 1970 to 2038. Named by no row. */
-fVerif fDATEHEUREC;
 /** `champ` and `dependance` both filled or both empty (up to thirty blanks).
  *  Errors 113, 114 and 115. */
 fVerif fSimult;
-/** Always pass; they hold a place. Named by no row. */
-fVerif fVerifDateInput;
-fVerif fVerifDateInputCvse;
 /** Blank, or a year after 1997. Error 121 of ABAT. */
 fVerif fVerifDateInputPost;
 /** A year after 1997. Error 123 of ABAT. */

@@ -8,6 +8,7 @@
 #include "calendar/datecalc.h"
 #include "checks/lecture.h"
 #include "checks/listes.h"
+#include "checks/sans_ligne.h"
 #include "checks/valautorise.h"
 #include "vocabulaire/store.h"
 

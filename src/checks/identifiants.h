@@ -13,12 +13,6 @@ namespace quilvane {
 /** Luhn key (ISO/IEC 7812-1, annex B) of a text of digits: 1 when it holds. A
  *  text with a non-digit fails, the empty text passes. */
 int fVerifLuhn(const char* texte);
-/** Company number (SIREN) in fourteen columns: blank, or nine characters
- *  without a blank and exactly five blanks. Named by no row. */
-fVerif fConformSiren;
-/** Establishment number (SIRET) in fourteen columns: blank, or fourteen
- *  characters without a blank. Named by no row. */
-fVerif fConformSiret;
 /** 1 when `pays` is exactly one of the fifteen member states that the
  *  slaughter rules know (two letters, "EL" and "UK" forms). Narrower than
  *  `TCEE` on purpose. */

@@ -72,6 +72,9 @@ bool vaut(const char* a, const char (&b)[N]) {
     return true;
 }
 
+/** Whether the text is exactly eight blanks: a date, model or number left blank. */
+inline bool huitBlancs(const char* texte) { return vaut(texte, "        "); }
+
 /** Whether the texts, each cut after `n` characters, are equal. */
 inline bool memeDebut(const char* a, const char* b, int n) {
     for (; n > 0 && *a == *b; --n, ++a, ++b)

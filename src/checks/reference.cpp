@@ -9,6 +9,7 @@
 #include "checks/conformite.h"
 #include "checks/lecture.h"
 #include "checks/listes.h"
+#include "checks/sans_ligne.h"
 #include "checks/valautorise.h"
 #include "vocabulaire/store.h"
 

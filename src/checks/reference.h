@@ -26,11 +26,6 @@ fVerif fVDIFFNULLP6;
 fVerif fVDIFFNULLVTAB;
 /** In the list, and not "FR". Error 1 of ECHA. */
 fVerif fVTABDIFFFR;
-/** Exactly two blanks, or in the list. Named by no row. */
-fVerif fVDIFF2B;
-/** When the dependency is filled two leading blanks pass; otherwise in the
- *  list. Named by no row. */
-fVerif fVEGALDNULLVTAB;
 /** One of two thirty-column fields (`champ`, `dependance`) is filled. Error 74
  *  of DETE. */
 fVerif fVDIFFVD;
@@ -41,20 +36,6 @@ fVerif fCDIFF;
 fVerif fConform_BV_model1;
 /** Witness flag (1): not blank from `P17` on (dependency). Error 150. */
 fVerif fConform_temoin_bouc1;
-/** Twelve blanks before `P6`, or `fConform8FR` with body C16 as country.
- *  Named by no row. */
-fVerif fCONFORM8FRP6;
-/** Twelve blanks before `P5`, or `fConform10FR` with body C10 as country.
- *  Named by no row. */
-fVerif fCONFORM10FRP5;
-/** A country of `TP` outside `TCEE`. Named by no row. */
-fVerif fPaysNonCEE;
-/** The second or third list entry, or digits when the first entry is "NUM".
- *  Named by no row. */
-fVerif fVTYPE;
-/** The field repeats columns a to b of the dependency; a and b are the first
- *  two list entries. Named by no row. */
-fVerif fVEGDS;
 /** Columns `posDebut` to `posFin` (at most five) differ from "0000". */
 int fVerifDiffZero(const char* champ, int posDebut, int posFin);
 

@@ -13,6 +13,16 @@
 
 namespace quilvane {
 
+// clang-format off
+/** Message-type codes. `AVER`, `LIST` and `FICH` have a code but no routing row. */
+enum codeVSE : unsigned {
+    ABAT, ACTI, ASSO, AVER, DETE, DETI, ECBO, ECHA, EGET, ENTR,
+    ERTI, ERRE, EXP1, EXP2, FICH, GROC, IMOC, IMPO, INFO, JALO,
+    LIST, NAIS, NUMA, NVMN, PASS, PICO, RACO, RATA, REBO, SORT,
+    CODE_INCONNU = 0xFFFFFFFFU  // the code of the routing table's last row
+};
+// clang-format on
+
 /** One routing row. */
 struct sAiguillage {
     const char* nomVSE;       // message type, header E6

@@ -46,8 +46,6 @@ int numeroAgricole(const char* champ, int n) {
     return estMajuscule(champ[0]) && chiffres(champ, 2, n) && blancs(champ, n + 1, 20);
 }
 
-bool dateBlanche(const char* champ) { return egal(champ, HuitBlancs[0].valeur); }
-
 }  // namespace
 
 /** Kind "E": the holding number (12) belongs to header E8's body. Error 50. */
@@ -116,17 +114,17 @@ int asso_fC6_6(const char*, char* champ, const liste&) {
 
 /** End date (DDMMYYYY): blank or complete. Error 175. */
 int asso_fC8_1(const char* dependance, char* champ, const liste& sverif) {
-    return dateBlanche(champ) || fDATEC(dependance, champ, sverif);
+    return huitBlancs(champ) || fDATEC(dependance, champ, sverif);
 }
 
 /** End date: blank or not before the start date (dependency). Error 149. */
 int asso_fC8_2(const char* dependance, char* champ, const liste& sverif) {
-    return dateBlanche(champ) || fCoherenDateSup(dependance, champ, sverif);
+    return huitBlancs(champ) || fCoherenDateSup(dependance, champ, sverif);
 }
 
 /** End date: blank or not after the record date (dependency). Error 52. */
 int asso_fC8_3(const char* dependance, char* champ, const liste& sverif) {
-    return dateBlanche(champ) || fCoherenDC(dependance, champ, sverif);
+    return huitBlancs(champ) || fCoherenDC(dependance, champ, sverif);
 }
 
 // clang-format off

@@ -16,26 +16,20 @@
 
 namespace quilvane {
 
-namespace {
-
-bool dateBlanche(const char* date) { return egal(date, HuitBlancs[0].valeur); }
-
-}  // namespace
-
 /** Second date: blank, or complete; blank, or not after the dependency.
  *  Errors 102 and 52. */
 int groc_cre_C10_1(const char* dependance, char* champ, const liste& sverif) {
-    return dateBlanche(champ) || fDATEC(dependance, champ, sverif);
+    return huitBlancs(champ) || fDATEC(dependance, champ, sverif);
 }
 
 int groc_cre_C10_2(const char* dependance, char* champ, const liste& sverif) {
-    return dateBlanche(champ) || fCoherenDC(dependance, champ, sverif);
+    return huitBlancs(champ) || fCoherenDC(dependance, champ, sverif);
 }
 
 /** A time (HHMMSS) with the date in the dependency, six blanks without it.
  *  Error 103. */
 int groc_cre_C12(const char* dependance, char* champ, const liste& sverif) {
-    return dateBlanche(dependance) ? vaut(champ, "      ") : fHEUREC(dependance, champ, sverif);
+    return huitBlancs(dependance) ? vaut(champ, "      ") : fHEUREC(dependance, champ, sverif);
 }
 
 // clang-format off

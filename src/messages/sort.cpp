@@ -25,47 +25,7 @@ constexpr mouvement::causes LETTRES = {"ST", "STM", ""};
 
 }  // namespace
 
-/** Causes F, G, S and T on creation only; the dependency is the transaction
- *  kind. Error 23. */
-int sort_fC5(const char* dependance, char*, const liste&) { return mouvement::causeSelonGenre(dependance); }
-
-/** Country (2) of the other holding on creation: of `TP`, or blank unless the
- *  cause (F, G / S, T) requires it. Error 24. */
-int sort_fC8_cre(const char*, char* champ, const liste&) {
-    return mouvement::pays(LETTRES, champ, mouvement::STRICT);
-}
-
-/** The same on modification; before `P8` it may be missing. Error 24. */
-int sort_fC8_mod(const char*, char* champ, const liste&) {
-    return mouvement::pays(LETTRES, champ, mouvement::TOLERE_AVANT_P8);
-}
-
-/** Number (12) of the other holding on creation: given with its country; may
- *  be missing for the causes F, G / S, T, M. Error 24. */
-int sort_fC9_1_cre(const char*, char* champ, const liste&) {
-    return mouvement::numeroPresent(LETTRES, champ, mouvement::STRICT);
-}
-
-int sort_fC9_1_mod(const char*, char* champ, const liste&) {
-    return mouvement::numeroPresent(LETTRES, champ, mouvement::TOLERE_AVANT_P8);
-}
-
-/** Number of the other holding: blank, or of French form if its country (C8)
- *  is "FR". Error 68. */
-int sort_fC9_2_cre(const char*, char* champ, const liste&) { return mouvement::numeroConforme(champ); }
-
-int sort_fC9_2_mod(const char*, char* champ, const liste&) { return mouvement::numeroConforme(champ); }
-
-/** The other party in words (60) when it has no number; ENTR's cause N needs
- *  neither. Error 24. */
-int sort_fC10_cre(const char*, char* champ, const liste&) {
-    return mouvement::texte(LETTRES, champ, mouvement::STRICT);
-}
-
-/** The same on modification; before `P8` both may be missing. Error 24. */
-int sort_fC10_mod(const char*, char* champ, const liste&) {
-    return mouvement::texte(LETTRES, champ, mouvement::TOLERE_AVANT_P8);
-}
+VERIFS_DE_MOUVEMENT(sort, LETTRES);
 
 // clang-format off
 constexpr sCorps tSort[] = {

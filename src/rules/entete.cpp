@@ -50,7 +50,7 @@ int enteteE8(const char* dependance, char* champ, const liste& sverif) {
 int enteteE9(const char* dependance, char* champ, const liste& sverif) {
     constexpr const char* SANS_CODE[] = {"NORMABEV", "OFFICE", "ONICAB"};
     if (estFICH(dependance)) return 1;
-    if (egal(champ, HuitBlancs[0].valeur) && commencePar(entete(E8), SANS_CODE)) return 1;
+    if (huitBlancs(champ) && commencePar(entete(E8), SANS_CODE)) return 1;
     return fVerifAucunBlanc(dependance, champ, sverif);
 }
 
@@ -117,14 +117,8 @@ constexpr int lFin = static_cast<int>(std::size(tFin));
 
 /** What its own checks do with the list of their row. */
 constexpr usageDeListe USAGES_ENTETE[] = {
-    {enteteE3, ENTIER},
-    {enteteE4, ENTIER},
-    {enteteE8, ENTIER},
-    {enteteE9, NON_LUE},
-    {enteteE10, ENTIER},
-    {enteteE12, ENTIER},
-    {enteteE13, ENTIER},
-    {finF3, ENTIER},
+    {enteteE3, ENTIER},  {enteteE4, ENTIER},  {enteteE8, ENTIER},  {enteteE9, NON_LUE},
+    {enteteE10, ENTIER}, {enteteE12, ENTIER}, {enteteE13, ENTIER}, {finF3, ENTIER},
 };
 static_assert(lignesJustes<examiner(tEntete, ENTETE, USAGES_ENTETE)>());
 static_assert(lignesJustes<examiner(tFin, FIN, USAGES_ENTETE)>());

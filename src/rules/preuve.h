@@ -4,9 +4,12 @@
  *
  *     static_assert(lignesJustes<examiner(tActi, CORPS)>());
  *
- * A wrong row does not compile. The message names it by what is wrong, its
- * field, its check and its error number, as in
- * `lignesJustes<faute{LARGEUR_DE_LISTE, 7, fVerifValAut, 131}>`.
+ * A wrong row does not compile. Both compilers name it in plain values: what is
+ * wrong, the field, which of the field's rows, its error number, as in
+ * `ligneExaminee<LARGEUR_DE_LISTE, 7, 1, 131>` for the first row of field 7,
+ * error 131. (A check is no plain value; its place in the field tells it.) A
+ * dependency that is neither `aucune` nor the start of a text of the store, such
+ * as "", may be refused without a name: the compiler need not know where it is.
  */
 #ifndef QUILVANE_RULES_PREUVE_H
 #define QUILVANE_RULES_PREUVE_H
@@ -28,16 +31,17 @@ enum eFaute {
     NUMERO_D_ERREUR,   // none for a check, or one for no check
     DEPENDANCE,        // neither `aucune` nor the slot of another field that the table cuts
     LISTE_EN_TROP,     // a list for a check that reads none (rules/usages.h, or the type's own)
-    LISTE_ABSENTE,     // `sansListe` for a check that reads a list
+    LISTE_ABSENTE,     // `sansListe` for a check that reads a list, or no list at all
     FORME_DE_LISTE,    // another number of entries in a row than the check reads
     LARGEUR_DE_LISTE,  // entries of another width than the check compares
 };
 
-/** One wrong row; the field is numbered from 1. */
+/** One wrong row: its field, numbered from 1; the first, second, ... row of that
+ *  field; its error number. */
 struct faute {
     eFaute quoi = AUCUNE_FAUTE;
     int champ = 0;
-    fVerif* verif = nullptr;
+    int ligne = 0;
     int erreur = 0;
     bool operator==(const faute&) const = default;
 };
@@ -108,9 +112,11 @@ constexpr faute examiner(const sCorps* table, int lignes, const partie& p,
                          const usageDeListe* propres = nullptr, int nombrePropres = 0) {
     const sCorps* champ = nullptr;  // the row with the columns
     int emplacements = 0;
+    int rang = 0;  // of the row among those of its field
     for (int i = 0; i < lignes; ++i) {
         const sCorps& l = table[i];
-        const auto fautive = [&l](eFaute quoi) { return faute{quoi, l.numChamp + 1, l.pfVerif, l.noErr}; };
+        rang = i > 0 && l.numChamp == table[i - 1].numChamp ? rang + 1 : 1;
+        const auto fautive = [&](eFaute quoi) { return faute{quoi, l.numChamp + 1, rang, l.noErr}; };
         if (l.debut == 0) {
             if (champ == nullptr || l.fin != 0 || l.numChamp != champ->numChamp)
                 return fautive(LIGNE_EN_PLUS);
@@ -129,6 +135,7 @@ constexpr faute examiner(const sCorps* table, int lignes, const partie& p,
             (l.pfVerif == nullptr || !dependanceExiste(l.dependance, table, lignes, l.numChamp)))
             return fautive(DEPENDANCE);
         const eUsage usage = usageDe(l.pfVerif, propres, nombrePropres);
+        if (l.sverif == nullptr) return fautive(LISTE_ABSENTE);
         if (const eFaute f = fauteDeListe(*l.sverif, usage, champ->fin - champ->debut + 1); f != AUCUNE_FAUTE)
             return fautive(f);
     }
@@ -144,11 +151,18 @@ constexpr faute examiner(const sCorps (&table)[N], const partie& p, const usageD
     return examiner(table, N, p, propres, M);
 }
 
+/** What was found of a row, spelled out so that a compiler prints it. */
+template <eFaute QUOI, int CHAMP, int LIGNE, int ERREUR>
+struct ligneExaminee {
+    static_assert(QUOI == AUCUNE_FAUTE,
+                  "a rule row is wrong: ligneExaminee<what, field, row of the field, error>");
+    static constexpr bool juste = true;
+};
+
 /** Compiles when there is no fault. */
 template <faute F>
 constexpr bool lignesJustes() {
-    static_assert(F.quoi == AUCUNE_FAUTE, "a rule row is wrong: what, field, check, error");
-    return true;
+    return ligneExaminee<F.quoi, F.champ, F.ligne, F.erreur>::juste;
 }
 
 }  // namespace quilvane

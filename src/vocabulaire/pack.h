@@ -1,6 +1,6 @@
 /**
- * pack.h - the layout of a record: its columns, its field numbers, the codes
- * of the message types, and two words that checks are called with.
+ * pack.h - the layout of a record: its columns, its field numbers, and two
+ * words that checks are called with.
  */
 #ifndef QUILVANE_VOCABULAIRE_PACK_H
 #define QUILVANE_VOCABULAIRE_PACK_H
@@ -28,14 +28,6 @@ enum numCorpsVSE : unsigned {
     C61, C62, C63, C64, C65, C66, C67, C68, C69, C70, C71, C72, C73, C74, C75, C76, C77, C78, C79, C80,
     C81, C82, C83, C84, C85, C86, C87, C88, C89, C90, C91, C92, C93, C94, C95, C96, C97, C98, C99, C100,
     CINC
-};
-
-/** Message-type codes. `AVER`, `LIST` and `FICH` have a code but no routing row. */
-enum codeVSE : unsigned {
-    ABAT, ACTI, ASSO, AVER, DETE, DETI, ECBO, ECHA, EGET, ENTR,
-    ERTI, ERRE, EXP1, EXP2, FICH, GROC, IMOC, IMPO, INFO, JALO,
-    LIST, NAIS, NUMA, NVMN, PASS, PICO, RACO, RATA, REBO, SORT,
-    CODE_INCONNU = 0xFFFFFFFFU  // the code of the routing table's last row
 };
 // clang-format on
 

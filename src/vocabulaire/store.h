@@ -80,8 +80,8 @@ inline constexpr int& codLong = leStore.codLong;
 /** Extract of the current slaughter notice. Written by `getVseCorps` only. */
 inline constexpr vseCorps& cp = leStore.cp;
 
-/** Not of the record but of the run: part of the first command-line argument between its first two '_' (at most
- *  31 characters). Written once by the driver; read by `fichier_C11`. */
+/** Not of the record but of the run: part of the first command-line argument between its first two '_' (at
+ * most 31 characters). Written once by the driver; read by `fichier_C11`. */
 extern char bufC11[32];
 
 }  // namespace quilvane

@@ -7,6 +7,7 @@
 
 #include "checks/abattage.h"
 #include "checks/dates.h"
+#include "checks/sans_ligne.h"
 #include "checks/valautorise.h"
 #include "support/magasin.h"
 #include "support/vse.h"

@@ -7,6 +7,7 @@
 #include <sstream>
 
 #include "checks/coherence.h"
+#include "checks/sans_ligne.h"
 #include "checks/valautorise.h"
 #include "support/champ.h"
 #include "vocabulaire/regle.h"

@@ -4,6 +4,7 @@
 #include <sstream>
 
 #include "checks/conformite.h"
+#include "checks/sans_ligne.h"
 #include "checks/valautorise.h"
 #include "support/champ.h"
 #include "vocabulaire/regle.h"

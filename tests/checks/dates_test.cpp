@@ -7,6 +7,7 @@
 
 #include "calendar/horloge.h"
 #include "checks/dates.h"
+#include "checks/sans_ligne.h"
 #include "checks/valautorise.h"
 #include "support/magasin.h"
 #include "vocabulaire/store.h"

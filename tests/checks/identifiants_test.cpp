@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "checks/identifiants.h"
+#include "checks/sans_ligne.h"
 #include "checks/valautorise.h"
 #include "support/champ.h"
 #include "vocabulaire/store.h"

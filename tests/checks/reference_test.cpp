@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "checks/reference.h"
+#include "checks/sans_ligne.h"
 #include "checks/valautorise.h"
 #include "support/magasin.h"
 #include "vocabulaire/regle.h"

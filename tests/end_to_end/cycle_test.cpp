@@ -19,8 +19,8 @@
 #include "driver/etat.h"
 #include "driver/quilvane.h"
 #include "fautes/fautes.h"
-#include "vocabulaire/pack.h"
 #include "support/attendu.h"
+#include "vocabulaire/pack.h"
 #include "vocabulaire/store.h"
 
 using namespace essai;

@@ -5,10 +5,6 @@
 #include "vocabulaire/regle.h"
 #include "vocabulaire/store.h"
 
-namespace quilvane {
-fVerif vAbat_C2_1, vAbat_C2_2;
-}  // namespace quilvane
-
 using namespace essai;
 using namespace quilvane;
 

@@ -4,11 +4,6 @@
 #include "vocabulaire/regle.h"
 #include "vocabulaire/store.h"
 
-namespace quilvane {
-fVerif asso_fC2_1, asso_fC2_2, asso_fC5, asso_fC6_1, asso_fC6_1_INV, asso_fC6_2, asso_fC6_2_INV, asso_fC6_3,
-    asso_fC6_4, asso_fC6_5, asso_fC6_6, asso_fC8_1, asso_fC8_2, asso_fC8_3;
-}  // namespace quilvane
-
 using namespace essai;
 using namespace quilvane;
 

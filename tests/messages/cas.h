@@ -12,13 +12,7 @@
 #include <string>
 #include <vector>
 
-#include "checks/abattage.h"
-#include "checks/coherence.h"
-#include "checks/conformite.h"
-#include "checks/dates.h"
-#include "checks/identifiants.h"
-#include "checks/listes.h"
-#include "checks/reference.h"
+#include "catalogue/verifs.h"
 #include "checks/valautorise.h"
 #include "messages/aiguillage.h"
 #include "support/champ.h"

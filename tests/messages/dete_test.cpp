@@ -2,10 +2,6 @@
 #include "messages/cas.h"
 #include "vocabulaire/store.h"
 
-namespace quilvane {
-fVerif fCoherenCC_dete_dem;
-}  // namespace quilvane
-
 using namespace essai;
 using namespace quilvane;
 

@@ -4,10 +4,6 @@
 #include "vocabulaire/regle.h"
 #include "vocabulaire/store.h"
 
-namespace quilvane {
-fVerif ecbo_C12, ecbo_C13, ecbo_C15;
-}  // namespace quilvane
-
 using namespace essai;
 using namespace quilvane;
 

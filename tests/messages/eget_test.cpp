@@ -1,9 +1,5 @@
 #include "messages/cas.h"
 
-namespace quilvane {
-fVerif eget_fC5C6;
-}  // namespace quilvane
-
 using namespace essai;
 using namespace quilvane;
 

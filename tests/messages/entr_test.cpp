@@ -4,11 +4,6 @@
 #include "support/mouvement.h"
 #include "vocabulaire/regle.h"
 
-namespace quilvane {
-fVerif entr_fC10_cre, entr_fC10_mod, entr_fC5, entr_fC8_cre, entr_fC8_mod, entr_fC9_1_cre, entr_fC9_1_mod,
-    entr_fC9_2_cre, entr_fC9_2_mod;
-}  // namespace quilvane
-
 using namespace essai;
 using namespace quilvane;
 

@@ -5,12 +5,6 @@
 #include "vocabulaire/regle.h"
 #include "vocabulaire/store.h"
 
-namespace quilvane {
-fVerif vErre_C1, vErre_C10, vErre_C29, vErre_C30, vErre_C31, vErre_C32_1, vErre_C32_2, vErre_C32_3,
-    vErre_C36_1, vErre_C37_1, vErre_C37_2, vErre_C4, vErre_C5, vErre_C6, vErre_C7, vErre_C8, vErre_C8_conf,
-    vErre_C9;
-}  // namespace quilvane
-
 using namespace essai;
 using namespace quilvane;
 

@@ -1,10 +1,6 @@
 #include "checks/valautorise.h"
 #include "messages/cas.h"
 
-namespace quilvane {
-fVerif erti_fC5, erti_fC9C10;
-}  // namespace quilvane
-
 using namespace essai;
 using namespace quilvane;
 

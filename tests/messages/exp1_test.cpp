@@ -3,10 +3,6 @@
 #include "messages/cas.h"
 #include "vocabulaire/regle.h"
 
-namespace quilvane {
-fVerif fexp1_C4;
-}  // namespace quilvane
-
 using namespace essai;
 using namespace quilvane;
 

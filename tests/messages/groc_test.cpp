@@ -1,10 +1,6 @@
 #include "messages/aiguillage.h"
 #include "messages/cas.h"
 
-namespace quilvane {
-fVerif groc_cre_C10_1, groc_cre_C10_2, groc_cre_C12;
-}  // namespace quilvane
-
 using namespace essai;
 using namespace quilvane;
 

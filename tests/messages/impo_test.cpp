@@ -3,10 +3,6 @@
 #include "messages/cas.h"
 #include "vocabulaire/regle.h"
 
-namespace quilvane {
-fVerif impo_C2, impo_C20, impo_C6_1, impo_C6_2, impo_C7;
-}  // namespace quilvane
-
 using namespace essai;
 using namespace quilvane;
 

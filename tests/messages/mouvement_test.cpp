@@ -9,12 +9,6 @@
 #include "messages/cas.h"
 #include "vocabulaire/regle.h"
 
-namespace quilvane {
-fVerif entr_fC10_cre, entr_fC10_mod, entr_fC5, entr_fC8_cre, entr_fC8_mod, entr_fC9_1_cre, entr_fC9_1_mod,
-    entr_fC9_2_cre, entr_fC9_2_mod, sort_fC10_cre, sort_fC10_mod, sort_fC5, sort_fC8_cre, sort_fC8_mod,
-    sort_fC9_1_cre, sort_fC9_1_mod, sort_fC9_2_cre, sort_fC9_2_mod;
-}  // namespace quilvane
-
 using namespace essai;
 using namespace quilvane;
 

@@ -4,10 +4,6 @@
 #include "vocabulaire/regle.h"
 #include "vocabulaire/store.h"
 
-namespace quilvane {
-fVerif nais_C11, nais_C11FRnonUEnon, nais_C11FRnonUEoui, nais_C17, nais_C2, nais_C7, nvmn_C2;
-}  // namespace quilvane
-
 using namespace essai;
 using namespace quilvane;
 

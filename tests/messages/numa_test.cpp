@@ -3,10 +3,6 @@
 #include "messages/cas.h"
 #include "vocabulaire/regle.h"
 
-namespace quilvane {
-fVerif numa_fC6_1, numa_fC6_2, numa_fC6_3;
-}  // namespace quilvane
-
 using namespace essai;
 using namespace quilvane;
 

@@ -3,10 +3,6 @@
 #include "messages/cas.h"
 #include "vocabulaire/regle.h"
 
-namespace quilvane {
-fVerif nvmn_C2;
-}  // namespace quilvane
-
 using namespace essai;
 using namespace quilvane;
 

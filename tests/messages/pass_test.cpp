@@ -1,9 +1,5 @@
 #include "messages/cas.h"
 
-namespace quilvane {
-fVerif pass_C10, pass_C7;
-}  // namespace quilvane
-
 using namespace essai;
 using namespace quilvane;
 

@@ -1,10 +1,6 @@
 #include "messages/cas.h"
 #include "vocabulaire/store.h"
 
-namespace quilvane {
-fVerif pico_fC6_1, pico_fC6_2, pico_fC6_3;
-}  // namespace quilvane
-
 using namespace essai;
 using namespace quilvane;
 

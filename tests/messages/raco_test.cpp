@@ -1,9 +1,5 @@
 #include "messages/cas.h"
 
-namespace quilvane {
-fVerif raco_fC6;
-}  // namespace quilvane
-
 using namespace essai;
 using namespace quilvane;
 

@@ -4,11 +4,6 @@
 #include "support/mouvement.h"
 #include "vocabulaire/regle.h"
 
-namespace quilvane {
-fVerif sort_fC10_cre, sort_fC10_mod, sort_fC5, sort_fC8_cre, sort_fC8_mod, sort_fC9_1_cre, sort_fC9_1_mod,
-    sort_fC9_2_cre, sort_fC9_2_mod;
-}  // namespace quilvane
-
 using namespace essai;
 using namespace quilvane;
 

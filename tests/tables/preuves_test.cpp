@@ -11,6 +11,7 @@
 #include <string>
 #include <vector>
 
+#include "catalogue/verifs.h"
 #include "checks/abattage.h"
 #include "checks/coherence.h"
 #include "checks/conformite.h"
@@ -112,7 +113,8 @@ lieu lieuDe(const valeurVSE (&slots)[N], const char* texte) {
 // mistake, and a mistake is told in one sentence.
 namespace {
 
-std::string phrase(const faute& f) {
+/** A fault of `table` in one sentence, with the name of the check. */
+std::string phrase(const std::vector<sCorps>& table, const faute& f) {
     const std::map<eFaute, std::string> SENS = {
         {AUCUNE_FAUTE, "nothing is wrong"},
         {COLONNES, "its columns begin before the field before ends, or lie outside its part"},
@@ -127,8 +129,13 @@ std::string phrase(const faute& f) {
         {FORME_DE_LISTE, "its list has another number of entries in a row than its check reads"},
         {LARGEUR_DE_LISTE, "its list has entries of another width than its check compares"},
     };
-    return "field " + std::to_string(f.champ) + ", error " + std::to_string(f.erreur) + ": " +
-           SENS.at(f.quoi);
+    std::string verif = "no row";
+    int rang = 0;
+    for (const sCorps& l : table)
+        if (l.numChamp + 1 == f.champ && ++rang == f.ligne)
+            verif = l.pfVerif == nullptr ? "no check" : verifDe(l.pfVerif)->nom;
+    return "field " + std::to_string(f.champ) + ", row " + std::to_string(f.ligne) + " (" + verif +
+           "), error " + std::to_string(f.erreur) + ": " + SENS.at(f.quoi);
 }
 
 /** A small table that is right, to be made wrong. */
@@ -157,35 +164,33 @@ TEST(Preuve, ChaqueFauteEstVueEtNommee) {
         void (*gater)(sCorps&);
         faute attendue;
     };
-    const faute C2_68 = {AUCUNE_FAUTE, 2, fConform8, 68};
+    const faute C2_68 = {AUCUNE_FAUTE, 2, 1, 68};
     const auto en = [](faute f, eFaute quoi) {
         f.quoi = quoi;
         return f;
     };
-    const faute C1_31 = {AUCUNE_FAUTE, 1, fVerifValAut, 31};
-    const faute C2_50 = {AUCUNE_FAUTE, 2, fCoherenCC, 50};
-    const faute C3_23 = {AUCUNE_FAUTE, 3, fVerifValAutDate, 23};
-    const faute C4_0 = {AUCUNE_FAUTE, 4, nullptr, 0};
+    const faute C1_31 = {AUCUNE_FAUTE, 1, 1, 31};
+    const faute C2_50 = {AUCUNE_FAUTE, 2, 2, 50};
+    const faute C3_23 = {AUCUNE_FAUTE, 3, 1, 23};
+    const faute C4_0 = {AUCUNE_FAUTE, 4, 1, 0};
     for (const cas& c : {
              cas{"begins inside the field before", 1, [](sCorps& l) { l.debut = 64; }, en(C2_68, COLONNES)},
              cas{"ends before it begins", 1, [](sCorps& l) { l.fin = 64; }, en(C2_68, COLONNES)},
              cas{"before its part", 0, [](sCorps& l) { l.debut = 62; }, en(C1_31, COLONNES)},
              cas{"behind its part", 4, [](sCorps& l) { l.fin = 231; }, en(C4_0, COLONNES)},
              cas{"extra row of another field", 2, [](sCorps& l) { l.numChamp = C4; },
-                 faute{LIGNE_EN_PLUS, 4, fCoherenCC, 50}},
+                 faute{LIGNE_EN_PLUS, 4, 1, 50}},
              cas{"extra row with a last column", 2, [](sCorps& l) { l.fin = 70; }, en(C2_50, LIGNE_EN_PLUS)},
              cas{"extra row first", 0, [](sCorps& l) { l.debut = l.fin = 0; }, en(C1_31, LIGNE_EN_PLUS)},
              cas{"field number twice", 3, [](sCorps& l) { l.numChamp = C2; },
-                 faute{CHAMPS_EN_ORDRE, 2, fVerifValAutDate, 23}},
+                 faute{CHAMPS_EN_ORDRE, 2, 3, 23}},
              cas{"presence code 3", 1, [](sCorps& l) { l.typeINV = 3; }, en(C2_68, PRESENCE)},
              cas{"negative presence code", 1, [](sCorps& l) { l.typeMOD = -1; }, en(C2_68, PRESENCE)},
              cas{"nothing to run", 4, [](sCorps& l) { l.typeDEM = 0; }, en(C4_0, PRESENCE)},
-             cas{"check without number", 1, [](sCorps& l) { l.noErr = 0; },
-                 faute{NUMERO_D_ERREUR, 2, fConform8, 0}},
+             cas{"check without number", 1, [](sCorps& l) { l.noErr = 0; }, faute{NUMERO_D_ERREUR, 2, 1, 0}},
              cas{"number of four digits", 1, [](sCorps& l) { l.noErr = 1000; },
-                 faute{NUMERO_D_ERREUR, 2, fConform8, 1000}},
-             cas{"number without check", 4, [](sCorps& l) { l.noErr = 9; },
-                 faute{NUMERO_D_ERREUR, 4, nullptr, 9}},
+                 faute{NUMERO_D_ERREUR, 2, 1, 1000}},
+             cas{"number without check", 4, [](sCorps& l) { l.noErr = 9; }, faute{NUMERO_D_ERREUR, 4, 1, 9}},
              cas{"depends on itself", 1, [](sCorps& l) { l.dependance = corps(C2); }, en(C2_68, DEPENDANCE)},
              cas{"depends on a field that is not cut", 1, [](sCorps& l) { l.dependance = corps(C5); },
                  en(C2_68, DEPENDANCE)},
@@ -199,6 +204,8 @@ TEST(Preuve, ChaqueFauteEstVueEtNommee) {
                  en(C2_50, LISTE_EN_TROP)},
              cas{"a list for no check", 4, [](sCorps& l) { l.sverif = &FR; }, en(C4_0, LISTE_EN_TROP)},
              cas{"no list", 1, [](sCorps& l) { l.sverif = &sansListe; }, en(C2_68, LISTE_ABSENTE)},
+             cas{"not even the empty list", 2, [](sCorps& l) { l.sverif = nullptr; },
+                 en(C2_50, LISTE_ABSENTE)},
              cas{"entries of another width", 0, [](sCorps& l) { l.sverif = &TDD; },
                  en(C1_31, LARGEUR_DE_LISTE)},
              cas{"departments of three characters", 1, [](sCorps& l) { l.sverif = &TDD; },
@@ -212,15 +219,23 @@ TEST(Preuve, ChaqueFauteEstVueEtNommee) {
         std::vector<sCorps> t = juste();
         c.gater(t[static_cast<std::size_t>(c.rang)]);
         const faute vue = examiner(t.data(), static_cast<int>(t.size()), CORPS);
-        EXPECT_TRUE(vue == c.attendue) << c.quoi << ": " << phrase(vue) << ", not " << phrase(c.attendue);
+        EXPECT_TRUE(vue == c.attendue)
+            << c.quoi << ": " << phrase(t, vue) << ", not " << phrase(t, c.attendue);
     }
+}
+
+TEST(Preuve, UneFauteSeDitEnUnePhrase) {
+    EXPECT_EQ(phrase(juste(), {LISTE_EN_TROP, 2, 2, 50}),
+              "field 2, row 2 (fCoherenCC), error 50: its check reads no list");
+    EXPECT_EQ(phrase(juste(), {COLONNES, 4, 1, 0}),
+              "field 4, row 1 (no check), error 0: its columns begin before the field before ends, or lie "
+              "outside its part");
 }
 
 TEST(Preuve, PlusDeChampsQueDEmplacements) {
     constexpr partie ETROITE = {63, 230, 3};
     const std::vector<sCorps> t = juste();
-    EXPECT_EQ(examiner(t.data(), static_cast<int>(t.size()), ETROITE),
-              (faute{CHAMP_SANS_PLACE, 4, nullptr, 0}));
+    EXPECT_EQ(examiner(t.data(), static_cast<int>(t.size()), ETROITE), (faute{CHAMP_SANS_PLACE, 4, 1, 0}));
 }
 
 TEST(Preuve, ChaqueUsageDUneListe) {
@@ -350,11 +365,13 @@ TEST(Tables, SeuleLaLigneViergeDuPiedEstSupplementaireSansVerification) {
 
 TEST(Tables, ChaqueLigneDependDeSonChamp) {
     // Field, error and the field it depends on; the rows that are not named
-    // depend on none. (A check that ignores its dependency is given it too.)
+    // depend on none. (A check that ignores its dependency is given it too.) A
+    // table that is not named is proved by its type's own test alone.
     // clang-format off
     const std::map<std::string, std::string> ATTENDUES = {
         {"tEntete", "E3/95:E6 E4/96:E6 E6/86:E5 E8/87:E6 E9/89:E6 E10/88:E6 E12/97:E6 E13/98:E6"},
         {"tFin", "F3/93:E6"},
+        {"tFich", ""},
         {"tAbat", "C6/52:F1 C7/52:F1"},
         {"tActi", "C2/68:C1 C2/50:E8 C5/52:F1 C6/52:F1"},
         {"tAsso", "C7/52:F1 C8/149:C7 C8/52:F1"},
@@ -405,7 +422,7 @@ TEST(Tables, ChaqueLigneDependDeSonChamp) {
                         std::to_string(ligne.noErr) + ":" + champDe(ligne.dependance);
         }
         const auto attendues = ATTENDUES.find(t.nom);
-        EXPECT_EQ(trouvees, attendues == ATTENDUES.end() ? "" : attendues->second) << t.nom;
+        if (attendues != ATTENDUES.end()) EXPECT_EQ(trouvees, attendues->second) << t.nom;
     }
 }
 

@@ -1,14 +1,13 @@
+#include "vocabulaire/store.h"
 #include "support/magasin.h"
 #include "support/vse.h"
 #include "vocabulaire/regle.h"
-#include "vocabulaire/store.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <iterator>
 #include <string>
-
 
 using namespace quilvane;
 using namespace essai;
