@@ -11,9 +11,9 @@
 #include "guide/commandes.h"
 #include "guide/fiches.h"
 #include "guide/fichiers.h"
-#include "messages/aiguillage.h"
 #include "rapport/diagnostic.h"
 #include "rapport/mots.h"
+#include "rapport/retour.h"
 
 namespace quilvane::guide {
 
@@ -34,73 +34,6 @@ constexpr texte T_SANS_SOURCE = {
 constexpr texte T_AUTRE = {
     "Ce fichier n'est pas celui auquel {0} répond : l'enregistrement en erreur n° {1} n'a pas son pareil.",
     "This file is not the one that {0} answers: its error record no. {1} has no equal."};
-
-constexpr int COL_RECUS = 101;
-constexpr int LARGEUR_COMPTE = 6;
-constexpr int COL_TYPE = 63;
-constexpr int COL_GENRE = 67;
-constexpr int COL_CLE = 72;
-constexpr int LARGEUR_CLE = 12;
-constexpr int COL_CODES = 112;
-constexpr int LARGEUR_CODE = 5;
-
-/** One ERRE record. */
-struct sErre {
-    long long ligne;
-    std::string type, genre, cle;
-    std::vector<int> numeros;
-};
-
-std::string zone(std::string_view t, int debut, int largeur) {
-    return std::string(
-        sansBlancs(t.substr(static_cast<std::size_t>(debut - 1), static_cast<std::size_t>(largeur))));
-}
-
-/** The codes "I%03d1" from column 112 on. */
-std::vector<int> numerosDe(std::string_view t) {
-    std::vector<int> r;
-    for (int k = 0; k < MAX_ERREURS; ++k) {
-        const std::string c = zone(t, COL_CODES + k * LARGEUR_CODE, LARGEUR_CODE);
-        if (c.size() != LARGEUR_CODE || c[0] != 'I' ||
-            c.find_first_not_of("0123456789", 1) != std::string::npos)
-            break;
-        r.push_back(std::stoi(c.substr(1, 3)));
-    }
-    return r;
-}
-
-struct sRetour {
-    std::vector<sErre> erres;
-    long long recus;  // messages received, as the FICH record counts them
-};
-
-/** Reads an error file; the line that is none in `faux`, 0 when all is well. */
-sRetour lireErreurs(lecteur& source, long long& faux) {
-    sRetour r = {};
-    static ligneLue ligne;
-    bool premiere = true;
-    faux = 0;
-    for (cverseFgetsRet fin; (fin = cverseFgets(source, ligne)) != CVERSE_EOF && fin != CVERSE_CTRLZ;) {
-        const std::string_view t(
-            ligne.texte,
-            static_cast<std::size_t>(ligne.longueur < LARGEUR_VSE ? ligne.longueur : LARGEUR_VSE));
-        const bool court = t.size() < COL_CODES + LARGEUR_CODE;
-        const std::string type = court ? "" : zone(t, 22, 4);
-        if (type != (premiere ? "FICH" : "ERRE")) {
-            faux = ligne.numero;
-            return r;
-        }
-        if (premiere) {
-            r.recus = nombre(zone(t, COL_RECUS, LARGEUR_COMPTE).c_str());
-            premiere = false;
-            continue;
-        }
-        r.erres.push_back({ligne.numero, zone(t, COL_TYPE, 4), zone(t, COL_GENRE, 3),
-                           zone(t, COL_CLE, LARGEUR_CLE), numerosDe(t)});
-    }
-    if (premiere) faux = 1;
-    return r;
-}
 
 int plaindre(const texte& m, eLangue langue, std::initializer_list<std::string_view> arguments) {
     std::fprintf(stderr, "quilvane-guide: %s\n", remplir(m, langue, arguments).c_str());
@@ -137,21 +70,10 @@ struct sRapprochement {
     std::string texte;
 };
 
-bool repond(const sErre& e, const sRecordVu& r) {
-    if (e.type != r.type || e.genre != r.genre || e.numeros.size() != r.erreurs.size()) return false;
-    for (std::size_t i = 0; i < e.numeros.size(); ++i)
-        if (e.numeros[i] != r.erreurs[i].numero) return false;
-    return true;
-}
-
-void rapprocher(void* qui, const sRecordVu& r) {
+void voirRefus(void* qui, const sRecordVu& r) {
     sRapprochement& x = *static_cast<sRapprochement*>(qui);
-    for (std::size_t k = 0; k < x.retour->erres.size(); ++k) {
-        if (x.vus[k] || !repond(x.retour->erres[k], r)) continue;
-        x.vus[k] = true;
+    if (rapprocher(*x.retour, r, x.vus) < x.vus.size())
         x.texte += refusEnTexte(r, visible(x.demande->source), x.demande->langue, x.couleur);
-        return;
-    }
 }
 
 }  // namespace
@@ -180,7 +102,7 @@ int retour(const sDemandeLue& d) {
         if (!ouvrir(source, d.source))
             return plaindre(T_ILLISIBLE, d.langue, {visible(d.source), raisonDe(errno, d.langue)});
         sRapprochement x = {&r, &d, couleur, std::vector<bool>(r.erres.size()), "\n"};
-        examiner(source.lecture, d.source, {.langue = d.langue}, {nullptr, rapprocher, &x});
+        examiner(source.lecture, d.source, {.langue = d.langue}, {nullptr, voirRefus, &x});
         fermer(source);
         t += x.texte;
         for (std::size_t k = 0; k < x.vus.size() && statut != STATUT_ARRET; ++k) {

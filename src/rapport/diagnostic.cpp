@@ -19,12 +19,13 @@ constexpr texte T_COLONNES = {"{0} {1}, colonnes {2} à {3}", "{0} {1}, columns 
 constexpr texte T_COLONNE = {"{0} {1}, colonne {2}", "{0} {1}, column {2}"};
 constexpr texte T_VALEUR = {"reçu", "received"};
 constexpr texte T_RIEN = {"rien : l'enregistrement s'arrête avant", "nothing: the record ends before it"};
+constexpr accord T_BLANCS = {{"{0} blanc", "{0} blank"}, {"{0} blancs", "{0} blanks"}};
 constexpr texte T_EXIGE = {"exigé", "required"};
 constexpr texte T_REMEDE = {"à faire", "to do"};
 constexpr texte T_LISTE = {"liste", "list"};
 constexpr texte T_PROCHES = {"Peut-être {0} ?", "Perhaps {0}?"};
-constexpr texte T_DECOULE = {"Découle sans doute de l'erreur {0} {1}: corrigez d'abord celle-là.",
-                             "Probably follows from error {0} {1}: mend that one first."};
+constexpr texte T_DECOULE = {"Découle sans doute de l'erreur {0}{1} : corrigez d'abord celle-là.",
+                             "Probably follows from error {0}{1}: mend that one first."};
 constexpr texte T_DERRIERE = {"(au-delà de la dixième erreur : quilvane ne l'écrit pas)",
                               "(behind the tenth error: quilvane does not write it)"};
 constexpr texte T_RECORD = {"enregistrement {0}", "record {0}"};
@@ -40,6 +41,8 @@ constexpr texte T_ARRET = {"NON TRAITÉ", "NOT PROCESSED"};
 constexpr texte T_PAR_NUMERO = {"Erreurs par numéro :", "Errors by number:"};
 constexpr texte T_PAR_TYPE = {"Enregistrements refusés par type :", "Records refused by type:"};
 constexpr texte T_PREMIERE = {"première en ligne {0}", "first on line {0}"};
+constexpr texte T_APRES = {"Si quilvane a déjà été lancé sur ce fichier : {0}",
+                           "If quilvane has run on this file already: {0}"};
 constexpr texte T_LIGNE = {"ligne {0}", "line {0}"};
 
 std::string lieu(std::string_view nom, long long ligne, long long colonne) {
@@ -74,6 +77,13 @@ void ligneDe(std::string& t, const texte& titre, std::string_view contenu, eLang
     t += pages.substr(13);
 }
 
+/** A value as it came; blanks are counted, for they cannot be seen. */
+std::string valeurRecue(std::string_view valeur, eLangue langue) {
+    if (valeur.empty()) return T_RIEN.en_langue(langue);
+    if (sansBlancs(valeur).empty()) return accorder(T_BLANCS, static_cast<long long>(valeur.size()), langue);
+    return cite(valeur, langue);
+}
+
 void erreurEnTexte(std::string& t, const sRecordVu& r, const sErreurVue& e, std::string_view nom,
                    eLangue langue, const sStyles& s) {
     const sErreur* const texte = erreurDe(e.numero);
@@ -92,7 +102,7 @@ void erreurEnTexte(std::string& t, const sRecordVu& r, const sErreurVue& e, std:
              "\n";
     if (e.debut != 0) {
         t += fenetre(r, e, s);
-        ligneDe(t, T_VALEUR, e.valeur.empty() ? T_RIEN.en_langue(langue) : cite(e.valeur, langue), langue, s);
+        ligneDe(t, T_VALEUR, valeurRecue(e.valeur, langue), langue, s);
     }
     std::string exige = messageDe(e, langue);
     if (e.proches.nombre > 0) {
@@ -107,7 +117,7 @@ void erreurEnTexte(std::string& t, const sRecordVu& r, const sErreurVue& e, std:
     if (texte != nullptr) ligneDe(t, T_REMEDE, texte->remede.en_langue(langue), langue, s);
     if (e.decouleDe >= 0) {
         const sErreurVue& cause = r.erreurs[static_cast<std::size_t>(e.decouleDe)];
-        const std::string champ = cause.place.table != nullptr ? "(" + nomDuChamp(cause.place) + ") " : "";
+        const std::string champ = cause.place.table != nullptr ? " (" + nomDuChamp(cause.place) + ")" : "";
         t += "    " + remplir(T_DECOULE, langue, {std::to_string(cause.numero), champ}) + "\n";
     }
     if (e.derriere) t += std::string("    ") + T_DERRIERE.en_langue(langue) + "\n";
@@ -194,7 +204,8 @@ std::string resumeEnTexte(const sResume& r, std::string_view nom, eLangue langue
     if (const sFatal* const f = fatalDe(codeDe(r.fatal)); f != nullptr) {
         t += "  " + std::string(f->code) + " " + f->titre.en_langue(langue);
         if (r.ligneFatale > 0) t += " (" + remplir(T_LIGNE, langue, {std::to_string(r.ligneFatale)}) + ")";
-        t += "\n" + enPages(f->sens.en_langue(langue), "  ") + enPages(f->remede.en_langue(langue), "  ");
+        t += "\n" + enPages(f->sens.en_langue(langue), "  ") +
+             enPages(remplir(T_APRES, langue, {f->remede.en_langue(langue)}), "  ");
     }
     t += "  " + comptes(r, langue) + "\n" + enPages(issueDe(r, langue), "  ");
     std::vector<int> numeros(1000);

@@ -54,6 +54,10 @@ constexpr texte T_182 = {
 constexpr texte T_COMPTE = {
     "L'enregistrement FICH annonce {0} en colonnes 95 à 100 ; le fichier en contient {1}.",
     "The FICH record announces {0} in columns 95 to 100; the file contains {1}."};
+constexpr texte T_COMPTE_RIEN = {
+    "Le fichier est vide, ou sa première ligne n'a pas de fin de ligne : aucun enregistrement n'est lu, pas "
+    "même FICH.",
+    "The file is empty, or its first line has no line end: no record is read, not even FICH."};
 constexpr accord MESSAGES = {{"{0} message", "{0} message"}, {"{0} messages", "{0} messages"}};
 constexpr texte T_COMPAGNON = {
     "Cette création doit être suivie aussitôt d'un enregistrement {0} de genre CRE dont le champ C2 répète "
@@ -208,6 +212,10 @@ sErreurVue expliquerCompte(int trouves, eLangue langue) {
     e.decouleDe = -1;
     placerAuChamp(e, "FICH", C3);
     e.valeur = valFichCorpsVSE[C3].valeur;
+    if (trouves < 0) {
+        e.phrase = T_COMPTE_RIEN.en_langue(langue);
+        return e;
+    }
     e.phrase = remplir(T_COMPTE, langue,
                        {accorder(MESSAGES, static_cast<long long>(nombre(e.valeur.c_str())), langue),
                         std::to_string(trouves)});

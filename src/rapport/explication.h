@@ -15,7 +15,8 @@ namespace quilvane {
  *  unknown type): place, columns, value, words. */
 sErreurVue expliquer(const constat& c, const lot& l, const sTable* corps, eLangue langue);
 
-/** The FICH record announces another count than the `trouves` messages. */
+/** The FICH record announces another count than the `trouves` messages; -1 when
+ *  there is not even a FICH record. */
 sErreurVue expliquerCompte(int trouves, eLangue langue);
 
 /** A creation of EXP1 or EGET (`record`) that its companion does not follow;

@@ -59,24 +59,17 @@ std::string interieur(std::string_view t) {
     return chaine.substr(1, chaine.size() - 2);
 }
 
-/** Adds bytes of an input, made visible, as they stand within a JSON string. */
-void ajouterOctets(std::string& s, std::string_view octets) {
-    const auto simple = [](char c) { return c >= 0x20 && c <= 0x7E && c != '"' && c != '\\'; };
-    if (std::all_of(octets.begin(), octets.end(), simple))
-        s += octets;
-    else
-        s += interieur(visible(octets));
-}
-
-/** The members about a field. */
-std::string membresDuChamp(const sPlace& p, eLangue langue) {
+/** The members about a field, or only those that tell which one it is. */
+std::string membresDuChamp(const sPlace& p, eLangue langue, bool bref) {
     const bool present = p.table != nullptr;
     objet o;
     o.w.StartObject();
     o.texteOuNul("partie", present ? p.table->partie : nullptr);
     o.texteOuNul("champ", present ? nomDuChamp(p).c_str() : nullptr);
-    o.texteOuNul("libelle", present ? libelleDuChamp(p, langue) : nullptr);
-    o.entierOuNul("fente", p.emplacement + 1, present);
+    if (!bref) {
+        o.texteOuNul("libelle", present ? libelleDuChamp(p, langue) : nullptr);
+        o.entierOuNul("fente", p.emplacement + 1, present);
+    }
     o.w.EndObject();
     return membres(o);
 }
@@ -100,9 +93,12 @@ const sNumeroJson& jsonDuNumero(int numero, eLangue langue) {
  *  between them stand the columns, the value depended on, the links. */
 struct sPartsJson {
     std::string champ;
-    std::string numero;                // number, origin, check, list
-    std::string dependance;            // up to the value; empty for none
-    std::string titre;                 // title, and the message up to its first value
+    std::string champBref;
+    std::string numero;      // number, origin, check, list
+    std::string numeroBref;  // number
+    std::string dependance;  // up to the value; empty for none
+    std::string titre;
+    std::string debut;                 // the message up to its first value
     std::vector<std::string> message;  // the message behind each value
     std::string remede;
 };
@@ -116,14 +112,21 @@ sPartsJson faireParts(const sErreurVue& e, eLangue langue) {
     o.texteOuNul("verification", verif ? e.regle->verif->nom : nullptr);
     o.texteOuNul("liste", verif && e.regle->liste != nullptr ? e.regle->liste->nom : nullptr);
     o.w.EndObject();
-    sPartsJson p = {membresDuChamp(e.place, langue), numero.code + membres(o), "", numero.titre, {}, ""};
+    sPartsJson p = {.champ = membresDuChamp(e.place, langue, false),
+                    .champBref = membresDuChamp(e.place, langue, true),
+                    .numero = numero.code + membres(o),
+                    .numeroBref = numero.code,
+                    .dependance = "",
+                    .titre = numero.titre,
+                    .debut = "",
+                    .message = {},
+                    .remede = numero.remede};
     if (e.regle != nullptr && e.regle->dependance.table != nullptr)
         p.dependance =
             ",\"dependance\":{\"champ\":" + chaineJson(nomDuChamp(e.regle->dependance)) + ",\"valeur\":\"";
-    p.titre += ",\"message\":\"" + interieur(e.regle != nullptr ? e.regle->morceaux.front() : e.phrase);
+    p.debut = ",\"message\":\"" + interieur(e.regle != nullptr ? e.regle->morceaux.front() : e.phrase);
     for (std::size_t i = 1; e.regle != nullptr && i < e.regle->morceaux.size(); ++i)
         p.message.push_back(guillemets(langue).apres + interieur(e.regle->morceaux[i]));
-    p.remede = "\"" + numero.remede;
     return p;
 }
 
@@ -170,27 +173,39 @@ void ajouterProches(std::string& s, const sProches& proches) {
 }
 
 /** The members of an error behind those of its record. */
-void ajouterErreurVue(std::string& s, const sErreurVue& e, long long premier, eLangue langue) {
+void ajouterErreurVue(std::string& s, const sErreurVue& e, long long premier, eLangue langue, bool bref) {
     const sPartsJson& parts = partsDe(e, langue);
-    s += parts.champ;
+    s += bref ? parts.champBref : parts.champ;
     ajouterColonnes(s, e);
-    s += parts.numero;
-    ajouterDependance(s, e, parts);
-    s += ",\"decoule_de\":";
-    s += e.decouleDe >= 0 ? std::to_string(premier + e.decouleDe) : "null";
+    s += bref ? parts.numeroBref : parts.numero;
+    if (!bref || !parts.dependance.empty()) ajouterDependance(s, e, parts);
+    if (!bref || e.decouleDe >= 0) {
+        s += ",\"decoule_de\":";
+        s += e.decouleDe >= 0 ? std::to_string(premier + e.decouleDe) : "null";
+    }
     if (e.derriere) s += ",\"derriere\":true";
-    s += parts.titre;
+    if (!bref) s += parts.titre;
+    s += parts.debut;
     for (const std::string& morceau : parts.message) {
         s += guillemets(langue).avant;
         ajouterOctets(s, e.valeurDependance);
         s += morceau;
     }
-    s += parts.remede;
+    s += '"';
+    if (!bref) s += parts.remede;
     ajouterProches(s, e.proches);
     s += '}';
 }
 
 }  // namespace
+
+void ajouterOctets(std::string& s, std::string_view octets) {
+    const auto simple = [](char c) { return c >= 0x20 && c <= 0x7E && c != '"' && c != '\\'; };
+    if (std::all_of(octets.begin(), octets.end(), simple))
+        s += octets;
+    else
+        s += interieur(visible(octets));
+}
 
 const char* nomDOrigine(eOrigine origine) {
     constexpr const char* NOMS[] = {"table", "cadrage", "admission", "partenaire", "compagnon", "compte"};
@@ -198,7 +213,7 @@ const char* nomDOrigine(eOrigine origine) {
 }
 
 void ajouterConstats(std::string& s, const sRecordVu& r, long long premier, eLangue langue,
-                     std::string_view separateur, const std::string* nom) {
+                     std::string_view separateur, const std::string* nom, bool bref) {
     const std::string ligne = (nom != nullptr ? "{\"nom\":" + chaineJson(*nom) + "," : "{") +
                               "\"ligne\":" + std::to_string(r.ligne) + ",\"colonne\":";
     std::string record = ",\"enregistrement\":" + std::to_string(r.rang) + ",\"type\":\"";
@@ -213,7 +228,7 @@ void ajouterConstats(std::string& s, const sRecordVu& r, long long premier, eLan
         s += ligne;
         s += std::to_string(e.colonne);
         s += record;
-        ajouterErreurVue(s, e, premier, langue);
+        ajouterErreurVue(s, e, premier, langue, bref);
     }
 }
 
