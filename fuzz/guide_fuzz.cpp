@@ -54,7 +54,8 @@ bool estJson(std::string_view texte) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* octets, std::size_t taille) {
     if (taille == 0) return 0;
-    const sDemande demande = {.langue = (octets[0] & 1) != 0 ? ANGLAIS : FRANCAIS, .tout = (octets[0] & 2) != 0};
+    const sDemande demande = {.langue = (octets[0] & 1) != 0 ? ANGLAIS : FRANCAIS,
+                              .tout = (octets[0] & 2) != 0};
     const sMemoire fichier = {octets + 1, taille - 1};
     cible::verifier(estJson(rapporter(FORMAT_JSON, demande, fichier)), "the report is no JSON");
     const std::string lignes = rapporter(FORMAT_JSONL, demande, fichier);

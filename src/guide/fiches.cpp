@@ -15,7 +15,6 @@ namespace {
 
 constexpr texte T_OU = {"Où :", "Where:"};
 constexpr texte T_FAIRE = {"À faire : ", "To do: "};
-constexpr texte T_REGLES = {"Règles", "Rules"};
 constexpr texte T_COLONNES = {"colonnes {0} à {1}", "columns {0} to {1}"};
 constexpr texte T_COLONNE = {"colonne {0}", "column {0}"};
 constexpr texte T_NON_CONTROLE = {"non contrôlé", "not checked"};

@@ -12,21 +12,22 @@ constexpr int COL_RECUS = 101;
 constexpr int LARGEUR_COMPTE = 6;
 constexpr int COL_TYPE = 63;
 constexpr int COL_GENRE = 67;
-constexpr int COL_CLE = 72;
-constexpr int LARGEUR_CLE = 12;
+constexpr int COL_C1 = 70;  // body fields C1 and C2 follow, as wide as in their type
 constexpr int COL_CODES = 112;
 constexpr int LARGEUR_CODE = 5;
+/** The shortest ERRE record: header, codes and footer, nothing of the record in error. */
+constexpr std::size_t MOINS = 200;
 
 std::string zone(std::string_view t, int debut, int largeur) {
     return std::string(
         sansBlancs(t.substr(static_cast<std::size_t>(debut - 1), static_cast<std::size_t>(largeur))));
 }
 
-/** The codes "I%03d1" from column 112 on. */
-std::vector<int> numerosDe(std::string_view t) {
+/** The codes "I%03d1" from column `debut` on. */
+std::vector<int> numerosDe(std::string_view t, int debut) {
     std::vector<int> r;
     for (int k = 0; k < MAX_ERREURS; ++k) {
-        const std::string c = zone(t, COL_CODES + k * LARGEUR_CODE, LARGEUR_CODE);
+        const std::string c = zone(t, debut + k * LARGEUR_CODE, LARGEUR_CODE);
         if (c.size() != LARGEUR_CODE || c[0] != 'I' ||
             c.find_first_not_of("0123456789", 1) != std::string::npos)
             break;
@@ -35,8 +36,18 @@ std::vector<int> numerosDe(std::string_view t) {
     return r;
 }
 
+int largeur(const sPlace& p) { return p.champ->fin - p.champ->debut + 1; }
+
+/** Body field C2 of the record in error. */
+std::string cleDe(std::string_view t, std::string_view type) {
+    const sTable* const table = tableNommee(type);
+    if (table == nullptr) return "";
+    return zone(t, COL_C1 + largeur(auSlot(table, C1)), largeur(auSlot(table, C2)));
+}
+
 bool repond(const sErre& e, const sRecordVu& r) {
-    if (e.type != r.type || e.genre != r.genre || e.numeros.size() != r.erreurs.size()) return false;
+    if (e.entier && (e.type != r.type || e.genre != r.genre || e.cle != r.cle)) return false;
+    if (e.numeros.size() != r.erreurs.size()) return false;
     for (std::size_t i = 0; i < e.numeros.size(); ++i)
         if (e.numeros[i] != r.erreurs[i].numero) return false;
     return true;
@@ -53,7 +64,7 @@ sRetour lireErreurs(lecteur& source, long long& faux) {
         const std::string_view t(
             ligne.texte,
             static_cast<std::size_t>(ligne.longueur < LARGEUR_VSE ? ligne.longueur : LARGEUR_VSE));
-        const bool court = t.size() < COL_CODES + MAX_ERREURS * LARGEUR_CODE;
+        const bool court = t.size() < MOINS;
         const std::string type = court ? "" : zone(t, COL_TYPE_DE_RECORD, 4);
         if (type != (premiere ? "FICH" : "ERRE")) {
             faux = ligne.numero;
@@ -64,8 +75,10 @@ sRetour lireErreurs(lecteur& source, long long& faux) {
             premiere = false;
             continue;
         }
-        r.erres.push_back({ligne.numero, zone(t, COL_TYPE, 4), zone(t, COL_GENRE, 3),
-                           zone(t, COL_CLE, LARGEUR_CLE), numerosDe(t)});
+        const int manque = LARGEUR_VSE - static_cast<int>(t.size());
+        const std::string deType = zone(t, COL_TYPE, 4);
+        r.erres.push_back({ligne.numero, manque == 0, deType, zone(t, COL_GENRE, 3), cleDe(t, deType),
+                           numerosDe(t, COL_CODES - manque)});
     }
     if (premiere) faux = 1;
     return r;

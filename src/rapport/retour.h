@@ -12,9 +12,11 @@
 
 namespace quilvane {
 
-/** One ERRE record. */
+/** One ERRE record. That of a record cut short has fewer columns: the fields
+ *  that were missing are, and the codes stand farther left. */
 struct sErre {
     long long ligne;               // of the error file, from 1
+    bool entier;                   // it has all its columns
     std::string type, genre, cle;  // of the record in error, trailing blanks apart
     std::vector<int> numeros;      // the error numbers that it carries
 };
@@ -30,7 +32,7 @@ struct sRetour {
 sRetour lireErreurs(lecteur& source, long long& faux);
 
 /** The ERRE record that speaks of a record in error: the first one not yet in
- *  `vus` with the same type, kind and numbers; it is then marked there. The
+ *  `vus` with the same type, kind, key and numbers; it is then marked there. The
  *  number of ERRE records when there is none. `vus` has one place for each. */
 std::size_t rapprocher(const sRetour& retour, const sRecordVu& r, std::vector<bool>& vus);
 

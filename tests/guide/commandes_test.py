@@ -60,6 +60,7 @@ def cas():
         "vide": fich + FIN + FIN + sort + FIN,
         "sans_fin": fich + FIN + sort,
         "ctrl_z": fich + FIN + sort + b"\x1a" + sort + FIN,
+        "court": lot(fich, sort[:66], sort[:20], changer(sort, (63, b"ZZ")), changer(sort, (63, b"ZZ"), (65, b"7812340009"))),
         "rien": b"",
         "sans_fich": sort + FIN,
         "repete": lot(fich, *[changer(sort, (100, b"\t"))] * 25),
@@ -156,7 +157,7 @@ class Commandes(banc.Cas):
             self.assertEqual(self.guide("retour", nom), (1, b"", f"quilvane-guide: {nom} ne peut être lu : {raison}\n".encode()))
 
     def test_retour(self):
-        for nom in "table", "compagnon", "tout", "compte":
+        for nom in "table", "compagnon", "tout", "compte", "court":
             self.fichier(f"{nom}.vse", cas()[nom])
             self.fichier(f"{nom}.retour", banc.quilvane(cas()[nom])[1])
             self.repondre(f"retour_{nom}", "retour", f"{nom}.retour")
@@ -165,6 +166,23 @@ class Commandes(banc.Cas):
         self.repondre("retour_faux", "retour", "table.vse")
         self.fichier("accepte.retour", banc.quilvane(cas()["accepte"])[1])
         self.repondre("retour_accepte", "retour", "accepte.retour")
+
+    def test_retour_de_tout(self):
+        """Every error file is led back to its source, whatever the types and the faults."""
+        vus = 0
+        for nom, octets in {**banc.exemples(), **cas()}.items():
+            statut, emis, _, _ = banc.quilvane(octets)
+            # The error file of an empty file lacks the FICH record's columns, too.
+            if statut != 2 or octets == b"":
+                continue
+            vus += 1
+            with self.subTest(nom):
+                self.fichier("source", octets)
+                self.fichier("retour", emis)
+                statut, sortie, erreur = self.guide("retour", "retour", "--source", "source")
+                self.assertEqual((statut, erreur), (2, b""))
+                self.assertEqual(sortie.count(b"\nenregistrement "), len(emis.splitlines()) - 1)
+        self.assertGreater(vus, 35)
 
     def test_expliquer(self):
         for mots in ("68", "I0681", "IG008", "I073", "86 NAIS", "67 NAIS C2", "67 NAIS C1", "100", "999", "67 ZZZZ", "67 NAIS C99"):
