@@ -1,6 +1,6 @@
 # Hardening, in every build; what the compiler does not have is left out.
 include(CheckCXXCompilerFlag)
-set(durcissement -fstack-protector-strong)
+set(durcissement -fstack-protector-strong -Werror=format-security)
 foreach(drapeau -fstack-clash-protection -fcf-protection)
   string(MAKE_C_IDENTIFIER "QUILVANE_A${drapeau}" present)
   check_cxx_compiler_flag(${drapeau} ${present})
@@ -14,13 +14,11 @@ if(NOT QUILVANE_SANITIZE)
     $<$<CONFIG:Release,RelWithDebInfo,MinSizeRel>:-U_FORTIFY_SOURCE>
     $<$<CONFIG:Release,RelWithDebInfo,MinSizeRel>:-D_FORTIFY_SOURCE=2>)
 endif()
-set(cibles quilvane_noyau quilvane_produit quilvane_catalogue quilvane_page quilvane_rapport quilvane_aide
-  ${QUILVANE_PROGRAMMES})
-if(TARGET quilvane_lot)
-  list(APPEND cibles quilvane_lot)
-endif()
-foreach(cible ${cibles})
-  target_compile_options(${cible} PRIVATE ${durcissement})
+foreach(cible quilvane_noyau quilvane_produit quilvane_catalogue quilvane_page quilvane_rapport quilvane_aide
+  quilvane_lot ${QUILVANE_PROGRAMMES})
+  if(TARGET ${cible})
+    target_compile_options(${cible} PRIVATE ${durcissement})
+  endif()
 endforeach()
 foreach(programme ${QUILVANE_PROGRAMMES})
   target_link_options(${programme} PRIVATE -pie -Wl,-z,relro,-z,now)

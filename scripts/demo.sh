@@ -1,13 +1,16 @@
 #!/usr/bin/env bash
-# Builds the program and runs it on example files: an accepted movement, birth
-# and slaughter notice, and a rejected one of each.
+# Builds the programs and runs quilvane on example files: an accepted movement,
+# birth and slaughter notice, and a rejected one of each; the last of these is
+# then explained in words by quilvane-guide.
 set -euo pipefail
 . "$(dirname "$0")/paquets.sh"
 cd "$racine"
 exiger g++ cmake ninja-build rapidjson-dev nettle-dev
 
-cmake --preset release -DQUILVANE_TESTS=OFF -B build/demo >/dev/null || arreter "cannot be configured"
-cmake --build build/demo -- --quiet || arreter "does not build"
+echo "Building, which takes a minute or two the first time."
+journaliser build/demo/configuration.log cmake -G Ninja -B build/demo ||
+    arreter "cannot be configured"
+journaliser build/demo/construction.log cmake --build build/demo -- --quiet || arreter "does not build"
 
 dossier=$(mktemp -d)
 trap 'rm -rf "$dossier"' EXIT
@@ -38,3 +41,10 @@ for type in entr nais abat; do
     montrer "${type}_accepte"
     montrer "${type}_rejete"
 done
+
+echo "\$ quilvane-guide retour --source exemples/abat_rejete.vse abat_rejete.out"
+cp -r exemples "$dossier/"
+(cd "$dossier" && "$racine/build/demo/quilvane-guide" retour --langue en --source exemples/abat_rejete.vse \
+    abat_rejete.out) || true
+echo
+echo "The programs stand in $racine/build/demo: quilvane, quilvane-guide, quilvane-lot."

@@ -19,9 +19,13 @@ exiger() {
     fi
     command -v apt-get >/dev/null || arreter "${manquants[*]}: not installed, and this machine has no apt-get"
     echo "Installing ${manquants[*]}"
-    "${sudo[@]}" env DEBIAN_FRONTEND=noninteractive sh -c '
-        apt-get update -qq && apt-get install -y -qq --no-install-recommends "$@"' sh "${manquants[@]}" >/dev/null ||
+    # What debconf and dpkg say on the way is of interest only when they fail.
+    local dit
+    dit=$("${sudo[@]}" env DEBIAN_FRONTEND=noninteractive sh -c '
+        apt-get update -qq && apt-get install -y -qq --no-install-recommends "$@"' sh "${manquants[@]}" 2>&1) || {
+        printf '%s\n' "$dit" | tail -n 20 >&2
         arreter "${manquants[*]}: apt-get could not install"
+    }
 }
 
 arreter() {
@@ -29,8 +33,22 @@ arreter() {
     exit 1
 }
 
-# construire PRESET: configures and builds one preset.
+# journaliser FILE COMMAND...: runs a command that prints into a file; when it
+# fails, shows the end of it and fails.
+journaliser() {
+    local fichier=$1
+    shift
+    mkdir -p "$(dirname "$fichier")"
+    "$@" >"$fichier" 2>&1 && return 0
+    tail -n 40 "$fichier" >&2
+    echo "All of it stands in $fichier" >&2
+    return 1
+}
+
+# construire PRESET: configures and builds one preset. What compiler and linker
+# say stands in build/PRESET/construction.log; of a build that succeeds that is
+# the linker's warning of tempnam, which CONTRIBUTING.md explains.
 construire() {
-    cmake --preset "$1" >/dev/null || arreter "preset $1 cannot be configured"
-    cmake --build --preset "$1" -- --quiet || arreter "preset $1 does not build"
+    journaliser "build/$1/configuration.log" cmake --preset "$1" || arreter "preset $1 cannot be configured"
+    journaliser "build/$1/construction.log" cmake --build --preset "$1" -- --quiet || arreter "preset $1 does not build"
 }

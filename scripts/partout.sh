@@ -11,7 +11,7 @@ for compilateur in g++ clang++; do
     for niveau in -O0 -O3; do
         dossier=build/partout/$compilateur$niveau
         echo "== $compilateur $niveau"
-        cmake -G Ninja -B "$dossier" -DCMAKE_BUILD_TYPE=None -DCMAKE_CXX_COMPILER="$compilateur" \
+        cmake -G Ninja -B "$dossier" -DCMAKE_BUILD_TYPE=None -DQUILVANE_TESTS=ON -DQUILVANE_STRICT=ON -DCMAKE_CXX_COMPILER="$compilateur" \
             -DCMAKE_CXX_FLAGS="$niveau" >/dev/null || arreter "$compilateur $niveau cannot be configured"
         cmake --build "$dossier" --target tests_end_to_end -- --quiet || arreter "$compilateur $niveau does not build"
         "$dossier/tests/tests_end_to_end" --gtest_brief=1 || arreter "tests failed with $compilateur $niveau"

@@ -1,0 +1,12 @@
+# fish completion for quilvane-lot
+complete -c quilvane-lot -f -a '(__fish_complete_directories)'
+complete -c quilvane-lot -s j -l travaux -x -d 'files processed at once'
+complete -c quilvane-lot -l suivre -d 'does not end: processes what arrives'
+complete -c quilvane-lot -l repos -x -d 'takes a file left untouched for S seconds'
+complete -c quilvane-lot -l delai -x -d 'gives quilvane S seconds a file'
+complete -c quilvane-lot -l metriques -r -F -d 'writes metrics in the text format of Prometheus'
+complete -c quilvane-lot -l garder -x -d 'removes older days from the archive'
+complete -c quilvane-lot -l langue -x -a 'fr en' -d 'language of messages and reports'
+complete -c quilvane-lot -l couleur -x -a 'auto toujours jamais' -d 'colours'
+complete -c quilvane-lot -s h -l aide -l help -d 'shows the help'
+complete -c quilvane-lot -l version -d 'shows the version'
