@@ -74,11 +74,11 @@ ligneVSE& ligneVSE::nombre(int n, int largeur) {
     const char* debut = chiffres;
     const char* const fin = std::to_chars(chiffres, chiffres + sizeof chiffres, n).ptr;
     if (n < 0) {
-        octets(debut++, 1);
+        octet(*debut++);
         --largeur;
     }
     for (auto presents = fin - debut; presents < largeur; ++presents)
-        octets("0", 1);
+        octet('0');
     return octets(debut, static_cast<std::size_t>(fin - debut));
 }
 
@@ -94,8 +94,8 @@ void faireVSEDate(char* tampon, const std::tm& t) {
 }
 
 void faireFinDeLigne(ligneVSE& l, int formatDeFichier) {
-    if (formatDeFichier == CVERSE_DOS || formatDeFichier == CVERSE_MAC) l.octets("\r", 1);
-    if (formatDeFichier != CVERSE_MAC) l.octets("\n", 1);
+    if (formatDeFichier == CVERSE_DOS || formatDeFichier == CVERSE_MAC) l.octet('\r');
+    if (formatDeFichier != CVERSE_MAC) l.octet('\n');
 }
 
 const char* quilvaneRES() { return "4"; }

@@ -24,6 +24,11 @@ struct ligneVSE {
     /** At least `largeur` columns: a sign if negative, zeros, the digits. */
     ligneVSE& nombre(int n, int largeur);
     ligneVSE& octets(const char* o, std::size_t n);
+    /** One character; left out when there is no place. */
+    ligneVSE& octet(char o) {
+        if (longueur < sizeof tampon) tampon[longueur++] = o;
+        return *this;
+    }
 
     char tampon[4 * LARGEUR_VSE];
     std::size_t longueur = 0;
