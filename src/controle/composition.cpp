@@ -100,9 +100,9 @@ void faireFinDeLigne(ligneVSE& l, int formatDeFichier) {
 
 const char* quilvaneRES() { return "4"; }
 
-void faireVSEValide(ligneVSE& l, const char* tampon) {
+void faireVSEValide(ligneVSE& l, const char* tampon, std::size_t n) {
     char* const emise = l.tampon + l.longueur;
-    l.octets(tampon, strnlen(tampon, LARGEUR_VSE));
+    l.octets(tampon, n);
     if (estRetourECQ(valEnteteVSE)) return;
     emise[COL_RESULTAT - 1] = quilvaneRES()[0];
     emise[COL_RESULTAT] = '0';
@@ -179,7 +179,8 @@ void faireVSEFICHNok(ligneVSE& l, const lot& de, const char* estampille) {
 void ajouterVerdict(ajouts& a, const lot& de, const verdict& v) {
     if (v.rang > 1 && v.erreurs == 0) {
         faireFinDeLigne(a.emis, de.formatDuFichier);
-        faireVSEValide(a.emis, de.ligne.texte);
+        // Neither too short nor holding a zero: both are errors.
+        faireVSEValide(a.emis, de.ligne.texte, LARGEUR_VSE);
     } else if (v.rang > 1) {
         faireFinDeLigne(a.erre, de.formatDuFichier);
         faireVSEERRCourante(a.erre, v.itAiguil, v.erreurs, codeErreur, de.VSEDate);
