@@ -74,11 +74,11 @@ ligneVSE& ligneVSE::nombre(int n, int largeur) {
     const char* debut = chiffres;
     const char* const fin = std::to_chars(chiffres, chiffres + sizeof chiffres, n).ptr;
     if (n < 0) {
-        octets(debut++, 1);
+        octet(*debut++);
         --largeur;
     }
     for (auto presents = fin - debut; presents < largeur; ++presents)
-        octets("0", 1);
+        octet('0');
     return octets(debut, static_cast<std::size_t>(fin - debut));
 }
 
@@ -94,15 +94,15 @@ void faireVSEDate(char* tampon, const std::tm& t) {
 }
 
 void faireFinDeLigne(ligneVSE& l, int formatDeFichier) {
-    if (formatDeFichier == CVERSE_DOS || formatDeFichier == CVERSE_MAC) l.octets("\r", 1);
-    if (formatDeFichier != CVERSE_MAC) l.octets("\n", 1);
+    if (formatDeFichier == CVERSE_DOS || formatDeFichier == CVERSE_MAC) l.octet('\r');
+    if (formatDeFichier != CVERSE_MAC) l.octet('\n');
 }
 
 const char* quilvaneRES() { return "4"; }
 
-void faireVSEValide(ligneVSE& l, const char* tampon) {
+void faireVSEValide(ligneVSE& l, const char* tampon, std::size_t n) {
     char* const emise = l.tampon + l.longueur;
-    l.octets(tampon, strnlen(tampon, LARGEUR_VSE));
+    l.octets(tampon, n);
     if (estRetourECQ(valEnteteVSE)) return;
     emise[COL_RESULTAT - 1] = quilvaneRES()[0];
     emise[COL_RESULTAT] = '0';
@@ -179,7 +179,8 @@ void faireVSEFICHNok(ligneVSE& l, const lot& de, const char* estampille) {
 void ajouterVerdict(ajouts& a, const lot& de, const verdict& v) {
     if (v.rang > 1 && v.erreurs == 0) {
         faireFinDeLigne(a.emis, de.formatDuFichier);
-        faireVSEValide(a.emis, de.ligne.texte);
+        // Neither too short nor holding a zero: both are errors.
+        faireVSEValide(a.emis, de.ligne.texte, LARGEUR_VSE);
     } else if (v.rang > 1) {
         faireFinDeLigne(a.erre, de.formatDuFichier);
         faireVSEERRCourante(a.erre, v.itAiguil, v.erreurs, codeErreur, de.VSEDate);

@@ -24,6 +24,11 @@ struct ligneVSE {
     /** At least `largeur` columns: a sign if negative, zeros, the digits. */
     ligneVSE& nombre(int n, int largeur);
     ligneVSE& octets(const char* o, std::size_t n);
+    /** One character; left out when there is no place. */
+    ligneVSE& octet(char o) {
+        if (longueur < sizeof tampon) tampon[longueur++] = o;
+        return *this;
+    }
 
     char tampon[4 * LARGEUR_VSE];
     std::size_t longueur = 0;
@@ -40,9 +45,9 @@ void faireFinDeLigne(ligneVSE& l, int formatDeFichier);
 /** Result code of an accepted record, the first character of columns 77-78. */
 const char* quilvaneRES();
 
-/** The current record as it is published when accepted: "40" in columns 77-78;
+/** The current record, `n` columns, as it is published when accepted: "40" in columns 77-78;
  *  an error return of kind "ECQ" stays unchanged. */
-void faireVSEValide(ligneVSE& l, const char* tampon);
+void faireVSEValide(ligneVSE& l, const char* tampon, std::size_t n);
 
 /**
  * An ERRE record: who sent what, the key fields of the holding concerned

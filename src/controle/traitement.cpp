@@ -218,7 +218,7 @@ void traitement(lot& l, verdict& v) {
     retenirVSE(l.ligne.texte);  // from here on the record is in `xdebug`
     codLong = l.ligne.codLong;
     codCaract = l.ligne.codCaract;
-    dire(l.vu, {.quoi = VU_RECORD});
+    if (l.vu != nullptr) dire(l.vu, {.quoi = VU_RECORD});
     std::memset(codeErreur, 0, MAX_ERREURS * sizeof codeErreur[0]);
     getvseChamps(tEntete, lEntete, xdebug, valEnteteVSE, l.vu);
     getvseChamps(tFin, lFin, xdebug, valFinVSE, l.vu);
@@ -226,7 +226,7 @@ void traitement(lot& l, verdict& v) {
         traiterFICH(l, v);
     else
         traiterMessage(l, v);
-    if (v.fatal == eFatal::AUCUN) dire(l.vu, {.quoi = VU_TERMINE});
+    if (l.vu != nullptr && v.fatal == eFatal::AUCUN) dire(l.vu, {.quoi = VU_TERMINE});
 }
 
 int sansCompagnon(lot& l) {

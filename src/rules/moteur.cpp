@@ -35,10 +35,16 @@ colonne colonneDuGenre(const char* genre) {
     }
 }
 
+/** Tells the witness of what is no row. Apart, so that a run without a witness
+ *  does not make room for what it would be told. */
+[[gnu::noinline]] void annoncer(const temoin* vu, eVu quoi, int numero = 0) {
+    dire(vu, {.quoi = quoi, .numero = numero});
+}
+
 /** Framing faults of the record; a fault is reset once it is stored. */
 int erreursDeCadrage(const temoin* vu, int compte) {
     const auto noter = [&](int& drapeau, int numero) {
-        dire(vu, {.quoi = VU_CADRAGE, .numero = numero});
+        if (vu != nullptr) annoncer(vu, VU_CADRAGE, numero);
         if (compte >= MAX_ERREURS) return;
         compte = ajouterErreur(compte, numero, ORIGINE_CADRAGE);
         drapeau = 0;
@@ -64,18 +70,22 @@ struct tableAppliquee {
  *  so that a run without one does not ask for it at each row. */
 template <bool observe>
 int appliquer(const tableAppliquee& t, int compte, const temoin* vu) {
+    if (!observe && compte >= MAX_ERREURS) return compte;
     const colonne presence = t.genre != nullptr ? colonneDuGenre(t.genre) : nullptr;
-    int emplacement = -1;
+    valeurVSE* suivant = t.slots;  // slot of the next row with columns
+    char* valeur = nullptr;
 
     for (const sCorps* ligne = t.lignes; ligne != t.lignes + t.nombre; ++ligne) {
-        if (ligne->debut != 0) ++emplacement;
-        char* const valeur = t.slots[emplacement].valeur;
+        if (ligne->debut != 0) valeur = (suivant++)->valeur;
         const auto temoigner = [&](eVu quoi, int numero = 0, int code = 0) {
-            if constexpr (observe)
+            if constexpr (observe) {
+                const int emplacement = static_cast<int>(suivant - t.slots) - 1;
                 vu->voir(vu->qui, {quoi, ligne, t.lettre, emplacement, valeur, code, numero});
+            }
         };
         temoigner(VU_LIGNE);
-        if (compte >= MAX_ERREURS || ligne->pfVerif == nullptr) continue;
+        if (observe && compte >= MAX_ERREURS) continue;
+        if (ligne->pfVerif == nullptr) continue;
 
         const int code = t.genre == nullptr ? A_VERIFIER : presence == nullptr ? INTERDIT : ligne->*presence;
         if (code == IGNORE) {
@@ -92,6 +102,8 @@ int appliquer(const tableAppliquee& t, int compte, const temoin* vu) {
             temoigner(VU_INTERDITE, numero, code);
         }
         compte = ajouterErreur(compte, numero, ORIGINE_TABLE, ligne);
+        // Only a witness wants to hear of the rows behind the tenth error.
+        if (!observe && compte >= MAX_ERREURS) return compte;
     }
     return compte;
 }
@@ -117,7 +129,7 @@ void getvseChamps(const sCorps* tCorps, int lCorps, const char* tampon, valeurVS
             std::memcpy(valeur + i, colonnes + i, PAS);
         valeur[largeur] = '\0';
     }
-    dire(vu, {.quoi = VU_COUPE});
+    if (vu != nullptr) annoncer(vu, VU_COUPE);
 }
 
 int verifChamps(const temoin* vu, int nbErreurPassee, const sCorps* pChamps, int lpChamps,

@@ -15,6 +15,8 @@
 #include "catalogue/textes.h"
 #include "checks/abattage.h"
 #include "checks/identifiants.h"
+#include "checks/sans_ligne.h"
+#include "checks/sans_ligne.h"
 #include "checks/valautorise.h"
 #include "support/regles.h"
 #include "vocabulaire/store.h"

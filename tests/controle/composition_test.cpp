@@ -343,7 +343,7 @@ TEST_F(Composition, VSEValide) {
         // Behind what is there already.
         EXPECT_EQ(fait([&](ligneVSE& r) {
                       r.texte("avant");
-                      faireVSEValide(r, record.c_str());
+                      faireVSEValide(r, record.c_str(), record.size());
                   }),
                   "avant" + (c.estampee ? emise(record) : record))
             << c.typeVSE << c.genre;

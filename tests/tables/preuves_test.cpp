@@ -422,7 +422,8 @@ TEST(Tables, ChaqueLigneDependDeSonChamp) {
                         std::to_string(ligne.noErr) + ":" + champDe(ligne.dependance);
         }
         const auto attendues = ATTENDUES.find(t.nom);
-        if (attendues != ATTENDUES.end()) EXPECT_EQ(trouvees, attendues->second) << t.nom;
+        if (attendues == ATTENDUES.end()) continue;
+        EXPECT_EQ(trouvees, attendues->second) << t.nom;
     }
 }
 
