@@ -30,6 +30,7 @@ sauter() {
          /: Skipped$/ { suivante = 1 }' "$1"
 }
 
+scripts/style.sh || arreter "the style is not ours"
 echo "Building and testing $*: from nothing about five minutes a preset on two free cores."
 # essayerPage: the page is built twice and tried in a browser.
 essayerPage() {

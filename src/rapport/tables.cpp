@@ -82,9 +82,7 @@ const char* libelleDuChamp(const sPlace& p, eLangue langue) {
     return c != nullptr ? c->libelle.en_langue(langue) : "";
 }
 
-const sListe* listeDeLigne(const sCorps* ligne) {
-    return listeEnMots(ligne->sverif);
-}
+const sListe* listeDeLigne(const sCorps* ligne) { return listeEnMots(ligne->sverif); }
 
 int presenceDe(const sTable& table, const sCorps* ligne, std::string_view genre) {
     if (table.partie[0] != 'C' || table.lignes == tFich) return 0;

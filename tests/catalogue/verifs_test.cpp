@@ -16,7 +16,6 @@
 #include "checks/abattage.h"
 #include "checks/identifiants.h"
 #include "checks/sans_ligne.h"
-#include "checks/sans_ligne.h"
 #include "checks/valautorise.h"
 #include "support/regles.h"
 #include "vocabulaire/store.h"
