@@ -171,14 +171,14 @@ std::string pourZsh(eLangue langue) {
         t += std::string("    ") + c.nom + ") _arguments";
         for (const sOption& o : options) {
             if (!connait(c, o)) continue;
-            std::string spec = std::string("--") + o.longue + (aArgument(o) ? "=" : "") + "[" +
-                               o.aide.en_langue(langue) + "]";
+            std::string element = std::string("--") + o.longue + (aArgument(o) ? "=" : "") + "[" +
+                                  o.aide.en_langue(langue) + "]";
             const std::string_view valeurs = o.lettre == 'F' ? c.formats : o.valeurs;
             if (!valeurs.empty())
-                spec += ":" + std::string(o.longue) + ":(" + mots(valeurs) + ")";
+                element += ":" + std::string(o.longue) + ":(" + mots(valeurs) + ")";
             else if (aArgument(o))
-                spec += ":" + std::string(o.longue) + ":_files";
-            t += " \\\n        " + entreApostrophes(spec);
+                element += ":" + std::string(o.longue) + ":_files";
+            t += " \\\n        " + entreApostrophes(element);
         }
         const std::string m = motsDArgument(c);
         t += " \\\n        " + entreApostrophes(m.empty() ? "*:fichier:_files" : "*:mot:(" + m + ")") +
