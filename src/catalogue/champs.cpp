@@ -49,7 +49,7 @@ constexpr texte SEXE = {"Sexe, 1 ou 2", "Sex, 1 or 2"};
 constexpr texte RACE = {"Code race", "Breed code"};
 constexpr texte RACE_2 = {"Deuxième code race", "Second breed code"};
 constexpr texte RACE_3 = {"Troisième code race", "Third breed code"};
-constexpr texte NAISSANCE = {"Date de naissance", "Birth date"};
+constexpr texte NAISSANCE = {"Date de naissance", "Date of birth"};
 constexpr texte PAYS_OVIN = {"Code pays du numéro ovin ou caprin",
                              "Country code of the ovine or caprine number"};
 constexpr texte NUM_OVIN = {"Numéro ovin ou caprin", "Ovine or caprine number"};
@@ -79,7 +79,7 @@ constexpr texte TEXTE_PARTIE = {"Texte libre sur l'autre partie", "Free text abo
 constexpr texte SECONDE_DATE = {"Deuxième date (INV, MOD)", "Second date (INV, MOD)"};
 
 // Dates
-constexpr texte RECEPTION = {"Date de réception", "Date of receipt"};
+constexpr texte RECEPTION = {"Date de réception", "Receipt date"};
 constexpr texte DATE = {"Date complète", "Complete date"};
 constexpr texte DATE_CRE = {"Date complète (CRE)", "Complete date (CRE)"};
 constexpr texte DATE_MOD = {"Date complète (MOD)", "Complete date (MOD)"};
@@ -103,8 +103,8 @@ constexpr sChamp tChamps[] = {
     {"ABAT", C3,    RESULTAT},
     {"ABAT", C4,    PAYS_PROVENANCE},
     {"ABAT", C5,    NUM_PROVENANCE},
-    {"ABAT", C6,    {"Date d'entrée à l'abattoir", "Date of entry at the slaughterhouse"}},
-    {"ABAT", C7,    {"Date d'abattage", "Date of slaughter"}},
+    {"ABAT", C6,    {"Date d'entrée à l'abattoir", "Date of entry into the slaughterhouse"}},
+    {"ABAT", C7,    {"Date d'abattage", "Slaughter date"}},
     {"ABAT", C8,    {"Numéro de l'abattoir", "Number of the slaughterhouse"}},
     {"ABAT", C9,    {"Poids de la carcasse, en kilogrammes", "Carcass weight, in kilograms"}},
     {"ABAT", C10,   {"Code pays du notificateur", "Country code of the notifier"}},
@@ -293,14 +293,14 @@ constexpr sChamp tChamps[] = {
     {"EXP2", C2,    NUM_EXPL},
     {"EXP2", C3,    RESULTAT},
     {"EXP2", C4,    {"Code pays du code C5 (CRE, MOD)", "Country code of the code C5 (CRE, MOD)"}},
-    {"EXP2", C5,    {"Code de la forme d'un code détenteur (CRE, MOD)",
+    {"EXP2", C5,    {"Code de la forme d'un code de détenteur (CRE, MOD)",
                      "Code in the form of a keeper code (CRE, MOD)"}},
     {"EXP2", C6,    LIBRE},
     {"EXP2", C7,    LIBRE},
     {"EXP2", C8,    LIBRE},
     {"EXP2", C9,    LIBRE},
     {"EXP2", C10,   {"Code pays du code C11 (INV, MOD)", "Country code of the code C11 (INV, MOD)"}},
-    {"EXP2", C11,   {"Code de la forme d'un code détenteur (INV, MOD)",
+    {"EXP2", C11,   {"Code de la forme d'un code de détenteur (INV, MOD)",
                      "Code in the form of a keeper code (INV, MOD)"}},
     {"EXP2", C12,   LIBRE},
     {"EXP2", C13,   LIBRE},
@@ -532,7 +532,7 @@ constexpr sNom tTypes[] = {
     {"ECBO", {"Données d'un bovin", "Bovine data"}},
     {"ECHA", {"Échange intracommunautaire", "Intra-community exchange"}},
     {"EGET", {"Site de production", "Production site"}},
-    {"ENTR", {"Entrée dans une exploitation", "Entry on a holding"}},
+    {"ENTR", {"Entrée dans une exploitation", "Entry onto a holding"}},
     {"ERRE", {"Retour d'erreur sur un avis d'abattage", "Error return about a slaughter notice"}},
     {"ERTI", {"Production d'un site", "Production of a site"}},
     {"EXP1", {"Exportation, exploitation", "Export, holding"}},

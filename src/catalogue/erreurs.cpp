@@ -212,11 +212,11 @@ constexpr sErreur tErreurs[] = {
      {"Dans ENTR et SORT, l'autre exploitation (pays C8, numéro C9) ou le texte C10 manque, ou le pays est "
       "inconnu ; les causes F et G (ENTR), S et T (SORT) rendent le pays obligatoire. Le genre MOD tolère "
       "ces absences pour un mouvement avant le 01/01/1999, et la cause N d'ENTR se passe de numéro et de "
-      "texte. Dans JALO, le texte C7 ou C8 est vide.",
-      "In ENTR and SORT the other holding (country C8, number C9) or the text C10 is missing, or the "
-      "country is unknown; the causes F and G (ENTR), S and T (SORT) make the country compulsory. Kind "
-      "MOD tolerates this for a movement before 01/01/1999, and cause N of ENTR needs neither number nor "
-      "text. In JALO the text C7 or C8 is blank."},
+      "texte ; un numéro donné sans son pays reste refusé. Dans JALO, le texte C7 ou C8 est vide.",
+      "In ENTR and SORT the other holding (country C8, number C9) or the text C10 is missing, or the country "
+      "is unknown; the causes F and G (ENTR), S and T (SORT) make the country compulsory. Kind MOD tolerates "
+      "this for a movement before 01/01/1999, and cause N of ENTR needs neither number nor text; a number "
+      "given without its country stays refused. In JALO the text C7 or C8 is blank."},
      {"Donnez ensemble le pays et le numéro de l'autre exploitation. Sans numéro, décrivez l'autre partie "
       "dans C10 et ne donnez le pays seul que pour les causes F et G (ENTR), S, T et M (SORT). Dans JALO, "
       "remplissez C7 et C8.",
@@ -261,13 +261,13 @@ constexpr sErreur tErreurs[] = {
      {"Écrivez une date qui existe, sous la forme JJMMAAAA, et laissez en blanc les parties inconnues.",
       "Write a date that exists, as DDMMYYYY, and leave unknown parts blank."}},
     {30,
-     {"Détenteur : pays ou code refusé", "Keeper: country or code refused"},
-     {"Le code pays n'est pas FR, ou le code du détenteur est vide : C1 et C2 d'ASSO, de DETE et de DETI "
-      "(dans ASSO et DETE, C2 est parfois un numéro d'exploitation), C4 et C5 d'EXP2. Dans EXP2, les trois "
-      "premiers caractères de C5 doivent aussi être un département connu.",
-      "The country code is not FR, or the keeper code is blank: C1 and C2 of ASSO, DETE and DETI (in ASSO "
-      "and DETE, C2 is sometimes a holding number), C4 and C5 of EXP2. In EXP2 the first three characters "
-      "of C5 must also be a known department."},
+     {"Détenteur ou exploitation : pays ou code refusé", "Keeper or holding: country or code refused"},
+     {"Le code pays n'est pas FR, ou le code du détenteur est vide : C1 et C2 d'ASSO, de DETE et de DETI (C2 "
+      "est le numéro d'une exploitation dans ASSO et, parfois, dans DETE DEM), C4 et C5 d'EXP2. Dans EXP2, "
+      "les trois premiers caractères de C5 doivent aussi être un département connu.",
+      "The country code is not FR, or the keeper code is blank: C1 and C2 of ASSO, DETE and DETI (C2 is the "
+      "number of a holding in ASSO and sometimes in DETE DEM), C4 and C5 of EXP2. In EXP2 the first three "
+      "characters of C5 must also be a known department."},
      {"Inscrivez FR comme code pays et remplissez le code. Dans EXP2, commencez-le par le département sur "
       "trois caractères, par exemple 078.",
       "Write FR as the country code and fill the code. In EXP2 begin it with the department in three "
@@ -294,9 +294,9 @@ constexpr sErreur tErreurs[] = {
       "Write a legal form of the kind's list, from the left; four blanks or four asterisks are accepted "
       "too."}},
     {33,
-     {"Adresse : champ C8 non renseigné (EXP1)", "Address: field C8 left blank (EXP1)"},
-     {"Les cinq colonnes du champ C8 (173 à 177) d'un EXP1 sont en blanc.",
-      "The five columns of field C8 (173 to 177) of an EXP1 record are blank."},
+     {"Champ C8 non renseigné (EXP1)", "Field C8 left blank (EXP1)"},
+     {"Les cinq colonnes du champ C8 (173 à 177) d'un EXP1 de genre CRE ou MOD sont en blanc.",
+      "The five columns of field C8 (173 to 177) of an EXP1 record of kind CRE or MOD are blank."},
      {"Remplissez le champ C8 ; aucune liste ne limite son contenu.",
       "Fill field C8; no list limits what it holds."}},
     {35,
@@ -314,15 +314,15 @@ constexpr sErreur tErreurs[] = {
      {"Écrivez une date complète qui existe, sous la forme JJMMAAAA, à partir de l'année 1900.",
       "Write a complete date that exists, as DDMMYYYY, from the year 1900 on."}},
     {39,
-     {"Forme juridique ou nom refusé (DETE)", "Legal form or name refused (DETE)"},
-     {"Dans un DETE, la forme juridique (C4, colonnes 79 à 82) n'est pas dans la liste du genre CRE ou "
-      "MOD, ou le nom (C5, colonnes 83 à 112) est vide.",
+     {"Forme juridique ou champ C5 refusé (DETE)", "Legal form or field C5 refused (DETE)"},
+     {"Dans un DETE, la forme juridique (C4, colonnes 79 à 82) n'est pas dans la liste du genre CRE ou MOD, "
+      "ou le champ C5 (colonnes 83 à 112) est vide.",
       "In a DETE record the legal form (C4, columns 79 to 82) is not in the list of kind CRE or MOD, or "
-      "the name (C5, columns 83 to 112) is blank."},
-     {"Inscrivez une forme juridique de la liste du genre, cadrée à gauche, et remplissez le nom.",
-      "Write a legal form of the kind's list, from the left, and fill the name."}},
+      "field C5 (columns 83 to 112) is blank."},
+     {"Inscrivez une forme juridique de la liste du genre, cadrée à gauche, et remplissez C5.",
+      "Write a legal form of the kind's list, from the left, and fill C5."}},
     {40,
-     {"Adresse : champ C8 non renseigné (DETE)", "Address: field C8 left blank (DETE)"},
+     {"Champ C8 non renseigné (DETE)", "Field C8 left blank (DETE)"},
      {"Les cinq colonnes du champ C8 (173 à 177) d'un DETE de genre CRE ou MOD sont en blanc.",
       "The five columns of field C8 (173 to 177) of a DETE record of kind CRE or MOD are blank."},
      {"Remplissez le champ C8 ; aucune liste ne limite son contenu.",
@@ -346,9 +346,9 @@ constexpr sErreur tErreurs[] = {
      {"Écrivez une date complète qui existe, sous la forme JJMMAAAA, à partir de l'année 1900.",
       "Write a complete date that exists, as DDMMYYYY, from the year 1900 on."}},
     {44,
-     {"Motif inconnu (PASS)", "Reason unknown (PASS)"},
-     {"Le motif (C6, colonnes 93 et 94) d'un PASS n'est pas un code de 00 à 09.",
-      "The reason (C6, columns 93 and 94) of a PASS record is not a code from 00 to 09."},
+     {"Code C6 inconnu (PASS)", "Code C6 unknown (PASS)"},
+     {"Le code C6 (colonnes 93 et 94) d'un PASS n'est pas dans la liste, de 00 à 09.",
+      "The code C6 (columns 93 and 94) of a PASS record is not in the list, from 00 to 09."},
      {"Inscrivez un code de 00 à 09, sur deux chiffres.", "Write a code from 00 to 09, in two digits."}},
     {48,
      {"Quantité mal écrite ou nulle (NUMA, PICO)", "Count not well written or zero (NUMA, PICO)"},
@@ -445,14 +445,15 @@ constexpr sErreur tErreurs[] = {
     {68,
      {"Numéro d'exploitation, d'abattoir ou d'agrément mal formé",
       "Holding, slaughterhouse or approval number not well formed"},
-     {"Un numéro d'exploitation française n'est pas fait de huit chiffres, qui commencent par un "
-      "département connu, puis de quatre blancs. Dans ABAT, le numéro d'abattoir C8 (lettres et chiffres, "
-      "ou tout en blanc) et l'identifiant du notifiant C11 (sept ou huit caractères qui commencent par un "
-      "département) sont aussi concernés. Dans ERRE, c'est le numéro d'agrément sanitaire C8.",
-      "A French holding number is not eight digits that begin with a known department, then four blanks. "
-      "In ABAT the slaughterhouse number C8 (letters and digits, or all blank) and the notifier's "
-      "identification C11 (seven or eight characters that begin with a department) are concerned too. In "
-      "ERRE it is the sanitary approval number C8."},
+     {"Un numéro d'exploitation française n'est pas fait de huit chiffres, qui commencent par un département "
+      "connu, puis de quatre blancs. Dans ABAT, le numéro d'abattoir C8 (lettres et chiffres, ou tout en "
+      "blanc) et l'identifiant du notificateur C11 (sept ou huit caractères qui commencent par un "
+      "département, OFFICE ou ONICAB) sont aussi concernés. Dans ERRE, c'est le numéro d'agrément sanitaire "
+      "C8.",
+      "A French holding number is not eight digits that begin with a known department, then four blanks. In "
+      "ABAT the slaughterhouse number C8 (letters and digits, or all blank) and the notifier's "
+      "identification C11 (seven or eight characters that begin with a department, OFFICE or ONICAB) are "
+      "concerned too. In ERRE it is the sanitary approval number C8."},
      {"Écrivez le numéro à gauche du champ, sans blanc à l'intérieur ni code pays. Contrôlez le "
       "département : la Corse s'écrit 20 dans les numéros d'exploitation.",
       "Write the number from the left of the field, without a blank inside and without a country code. "
@@ -465,7 +466,7 @@ constexpr sErreur tErreurs[] = {
       "error is given for each of the two."},
      {"Remplissez au moins l'un des deux champs.", "Fill at least one of the two fields."}},
     {75,
-     {"Adresse : C6 et C7 vides (EXP1)", "Address: C6 and C7 both blank (EXP1)"},
+     {"C6 et C7 tous deux vides (EXP1)", "C6 and C7 both blank (EXP1)"},
      {"Les deux champs C6 et C7 (colonnes 113 à 172) d'un EXP1 de genre CRE ou MOD sont en blanc. L'erreur "
       "est donnée pour chacun des deux.",
       "Both fields C6 and C7 (columns 113 to 172) of an EXP1 record of kind CRE or MOD are blank. The "
@@ -488,7 +489,7 @@ constexpr sErreur tErreurs[] = {
      {"Écrivez une date complète qui existe, sous la forme JJMMAAAA, à partir de l'année 1900.",
       "Write a complete date that exists, as DDMMYYYY, from the year 1900 on."}},
     {79,
-     {"Adresse : champ C9 non renseigné (DETE)", "Address: field C9 left blank (DETE)"},
+     {"Champ C9 non renseigné (DETE)", "Field C9 left blank (DETE)"},
      {"Le champ C9 (colonnes 178 à 207) d'un DETE de genre CRE ou MOD est en blanc.",
       "Field C9 (columns 178 to 207) of a DETE record of kind CRE or MOD is blank."},
      {"Remplissez le champ C9 ; aucune liste ne limite son contenu.",
@@ -504,7 +505,7 @@ constexpr sErreur tErreurs[] = {
       "The flag C4 (column 79) of an ACTI or DETI record is something other than 0 or 1."},
      {"Inscrivez 0 ou 1 dans la colonne 79.", "Write 0 or 1 in column 79."}},
     {82,
-     {"Adresse : champ C9 non renseigné (EXP1)", "Address: field C9 left blank (EXP1)"},
+     {"Champ C9 non renseigné (EXP1)", "Field C9 left blank (EXP1)"},
      {"Le champ C9 (colonnes 178 à 207) d'un EXP1 de genre CRE ou MOD est en blanc.",
       "Field C9 (columns 178 to 207) of an EXP1 record of kind CRE or MOD is blank."},
      {"Remplissez le champ C9 ; aucune liste ne limite son contenu.",
@@ -628,8 +629,8 @@ constexpr sErreur tErreurs[] = {
      {"Nombre d'enregistrements annoncé inexact", "Announced number of records not right"},
      {"Le nombre annoncé par l'enregistrement FICH (C3, colonnes 95 à 100) n'est pas celui des "
       "enregistrements qui le suivent. Un fichier vide ou sans fin de ligne reçoit aussi ce numéro.",
-      "The number that the FICH record announces (C3, columns 95 to 100) is not that of the records "
-      "behind it. A file that is empty or has no line end gets this number too."},
+      "The number that the FICH record announces (C3, columns 95 to 100) is not that of the records that "
+      "follow it. A file that is empty or has no line end gets this number too."},
      {"Comptez les enregistrements sans l'enregistrement FICH et inscrivez ce nombre sur six chiffres. Si "
       "le nombre était juste, vérifiez que la dernière ligne a sa fin de ligne : sans elle, elle n'est pas "
       "lue.",
@@ -668,7 +669,7 @@ constexpr sErreur tErreurs[] = {
       "An EXP1 record of kind CRE, with no other error, is not followed at once by an EXP2 record of kind "
       "CRE with the same holding number C2. A rejection is then written for the EXP1."},
      {"Placez l'EXP2 juste après son EXP1 et recopiez les douze caractères de C2 à l'identique.",
-      "Put the EXP2 right behind its EXP1 and copy the twelve characters of C2 exactly."}},
+      "Put the EXP2 right after its EXP1 and copy the twelve characters of C2 exactly."}},
     {106,
      {"Caractère non autorisé", "Character not allowed"},
      {"L'enregistrement contient un octet qui n'est pas un caractère imprimable simple (0x20 à 0x7E) : "
@@ -704,8 +705,8 @@ constexpr sErreur tErreurs[] = {
       "A FICH record stands elsewhere than at the head of the file."},
      {"Gardez un seul enregistrement FICH, le premier, et ajustez le nombre qu'il annonce. Envoyez "
       "séparément les fichiers qui ont été réunis.",
-      "Keep one FICH record, the first, and adjust the number that it announces. Send files that were "
-      "joined separately."}},
+      "Keep one FICH record, the first, and adjust the number that it announces. Send separately the "
+      "files that were joined."}},
     {110,
      {"Type de message non admis de cet émetteur", "Message type not accepted from this emitter"},
      {"L'émetteur du fichier n'envoie pas ce type : un INFO de genre DEM vient de NORM02 ou de PFOC01, un "
@@ -760,23 +761,23 @@ constexpr sErreur tErreurs[] = {
       "Check the country code: if it is wrong, correct it. If it is right, give the animal's number of "
       "French form."}},
     {119,
-     {"Déroulement du marquage inconnu (JALO)", "Course of the marking unknown (JALO)"},
-     {"Le déroulement du marquage (C10, colonne 222) d'un JALO n'est pas dans la liste.",
-      "The course of the marking (C10, column 222) of a JALO record is not in the list."},
+     {"Code C10 inconnu (JALO)", "Code C10 unknown (JALO)"},
+     {"Le code C10 (colonne 222) d'un JALO n'est pas dans la liste.",
+      "The code C10 (column 222) of a JALO record is not in the list."},
      {"Inscrivez A, D, E ou S dans la colonne 222.", "Write A, D, E or S in column 222."}},
     {120,
      {"Date d'entrée à l'abattoir incorrecte", "Slaughterhouse entry date not valid"},
      {"La date d'entrée à l'abattoir (C6, colonnes 93 à 100) d'un ABAT n'existe pas ou n'est pas complète. "
       "Elle peut rester en blanc.",
-      "The date of entry at the slaughterhouse (C6, columns 93 to 100) of an ABAT record does not exist "
-      "or is not complete. It may stay blank."},
+      "The date of entry into the slaughterhouse (C6, columns 93 to 100) of an ABAT record does not exist or "
+      "is not complete. It may stay blank."},
      {"Écrivez une date complète qui existe, sous la forme JJMMAAAA, ou huit blancs.",
       "Write a complete date that exists, as DDMMYYYY, or eight blanks."}},
     {121,
      {"Date d'entrée à l'abattoir trop ancienne", "Slaughterhouse entry date too early"},
      {"L'année de la date d'entrée à l'abattoir (C6, colonnes 93 à 100) d'un ABAT n'est pas postérieure à "
       "1997.",
-      "The year of the date of entry at the slaughterhouse (C6, columns 93 to 100) of an ABAT record is "
+      "The year of the date of entry into the slaughterhouse (C6, columns 93 to 100) of an ABAT record is "
       "not later than 1997."},
      {"Corrigez la date : elle est du 01/01/1998 ou plus récente, ou laissée en blanc.",
       "Correct the date: it is 01/01/1998 or later, or left blank."}},
@@ -795,9 +796,9 @@ constexpr sErreur tErreurs[] = {
      {"Corrigez la date d'abattage : elle est du 01/01/1998 ou plus récente.",
       "Correct the slaughter date: it is 01/01/1998 or later."}},
     {124,
-     {"Abattage avant l'entrée à l'abattoir", "Slaughter before the entry at the slaughterhouse"},
+     {"Abattage avant l'entrée à l'abattoir", "Slaughter before entry into the slaughterhouse"},
      {"Dans un ABAT, la date d'abattage (C7) est antérieure à la date d'entrée à l'abattoir (C6).",
-      "In an ABAT record the slaughter date (C7) is earlier than the date of entry at the slaughterhouse "
+      "In an ABAT record the slaughter date (C7) is earlier than the date of entry into the slaughterhouse "
       "(C6)."},
      {"Comparez les deux dates et corrigez celle qui est fausse.",
       "Compare the two dates and correct the one that is wrong."}},
@@ -818,25 +819,26 @@ constexpr sErreur tErreurs[] = {
       "Check the weight and the place of the comma: 0350,50 is three hundred and fifty and a half "
       "kilograms."}},
     {127,
-     {"Notifiant : pays incorrect ou identifiant absent",
+     {"Notificateur : pays incorrect ou identifiant absent",
       "Notifier: country not valid or identification missing"},
-     {"Dans un ABAT, le pays du notifiant (C10) n'est pas FR, ou son identifiant (C11) est vide. Si "
-      "l'identifiant commence par OFFICE ou ONICAB, le pays doit être celui qui le suit, aux positions 7 "
-      "et 8.",
+     {"Dans un ABAT, le pays du notificateur (C10) n'est pas FR, ou son identifiant (C11) est vide. Si "
+      "l'identifiant commence par OFFICE ou ONICAB, le pays doit être celui qui le suit, aux positions 7 et "
+      "8.",
       "In an ABAT record the notifier's country (C10) is not FR, or its identification (C11) is blank. If "
-      "the identification begins with OFFICE or ONICAB, the country must be the one behind it, in "
+      "the identification begins with OFFICE or ONICAB, the country must be the one that follows it, in "
       "positions 7 and 8."},
      {"Remplissez C11 et inscrivez FR dans C10, ou le pays qui suit OFFICE ou ONICAB.",
-      "Fill C11 and write FR in C10, or the country behind OFFICE or ONICAB."}},
+      "Fill C11 and write FR in C10, or the country that follows OFFICE or ONICAB."}},
     {128,
      {"Numéro d'abattoir refusé", "Slaughterhouse number refused"},
-     {"Le numéro d'abattoir (C8, colonnes 109 à 116) d'un ABAT ne commence pas par une lettre ou un "
-      "chiffre. Si le notifiant (C11) commence par OFFICE, il doit être fait des deux codes pays C4 et "
-      "C10, dans cet ordre. Il peut rester en blanc.",
+     {"Le numéro d'abattoir (C8, colonnes 109 à 116) d'un ABAT ne commence pas par une lettre ou un chiffre. "
+      "Si le notificateur (C11) commence par OFFICE, il doit être fait des deux codes pays C4 et C10, dans "
+      "cet ordre. Il peut rester en blanc.",
       "The slaughterhouse number (C8, columns 109 to 116) of an ABAT record does not begin with a letter "
       "or a digit. If the notifier (C11) begins with OFFICE, it must be the two country codes C4 and C10, "
       "in that order. It may stay blank."},
-     {"Écrivez le numéro à gauche du champ ; pour un notifiant OFFICE, écrivez le pays C4 puis le pays C10.",
+     {"Écrivez le numéro à gauche du champ ; pour un notificateur OFFICE, écrivez le pays C4 puis le pays "
+      "C10.",
       "Write the number from the left of the field; for an OFFICE notifier, write the country C4, then "
       "the country C10."}},
     {129,
@@ -914,7 +916,7 @@ constexpr sErreur tErreurs[] = {
       "An EGET record of kind CRE, with no other error, is not followed at once by a RATA record of kind "
       "CRE with the same site code C2. A rejection is then written for the EGET."},
      {"Placez le RATA juste après son EGET et recopiez les douze caractères de C2 à l'identique.",
-      "Put the RATA right behind its EGET and copy the twelve characters of C2 exactly."}},
+      "Put the RATA right after its EGET and copy the twelve characters of C2 exactly."}},
     {139,
      {"Site : pays autre que FR ou code absent", "Site: country other than FR, or code missing"},
      {"Dans un EGET, un ERTI ou un RATA, le code pays C1 n'est pas FR, ou le code du site C2 est vide.",
@@ -941,13 +943,13 @@ constexpr sErreur tErreurs[] = {
       "error is given for each of the two."},
      {"Remplissez au moins l'un des deux champs.", "Fill at least one of the two fields."}},
     {142,
-     {"Adresse : champ C7 non renseigné (EGET)", "Address: field C7 left blank (EGET)"},
+     {"Champ C7 non renseigné (EGET)", "Field C7 left blank (EGET)"},
      {"Les cinq colonnes du champ C7 (140 à 144) d'un EGET de genre CRE ou MOD sont en blanc.",
       "The five columns of field C7 (140 to 144) of an EGET record of kind CRE or MOD are blank."},
      {"Remplissez le champ C7 ; aucune liste ne limite son contenu.",
       "Fill field C7; no list limits what it holds."}},
     {143,
-     {"Adresse : champ C8 non renseigné (EGET)", "Address: field C8 left blank (EGET)"},
+     {"Champ C8 non renseigné (EGET)", "Field C8 left blank (EGET)"},
      {"Le champ C8 (colonnes 145 à 174) d'un EGET de genre CRE ou MOD est en blanc.",
       "Field C8 (columns 145 to 174) of an EGET record of kind CRE or MOD is blank."},
      {"Remplissez le champ C8 ; aucune liste ne limite son contenu.",
@@ -969,19 +971,19 @@ constexpr sErreur tErreurs[] = {
      {"Écrivez une date complète qui existe, sous la forme JJMMAAAA, ou huit blancs.",
       "Write a complete date that exists, as DDMMYYYY, or eight blanks."}},
     {146,
-     {"Produit C9 incorrect (ERTI)", "Product C9 not valid (ERTI)"},
-     {"Le produit C9 (colonnes 105 à 108) d'un ERTI de genre CRE ou MOD doit être OEUF quand la production "
-      "C5 vaut M, et rester en blanc sinon.",
-      "The product C9 (columns 105 to 108) of an ERTI record of kind CRE or MOD must be OEUF when the "
+     {"Code C9 incorrect (ERTI)", "Code C9 not valid (ERTI)"},
+     {"Le code C9 (colonnes 105 à 108) d'un ERTI de genre CRE ou MOD doit être OEUF quand la production C5 "
+      "vaut M, et rester en blanc sinon.",
+      "The code C9 (columns 105 to 108) of an ERTI record of kind CRE or MOD must be OEUF when the "
       "production C5 is M, and stay blank otherwise."},
      {"Contrôlez la production C5, puis inscrivez OEUF ou quatre blancs dans C9.",
       "Check the production C5, then write OEUF or four blanks in C9."}},
     {147,
-     {"Code d'élevage C10 incorrect (ERTI)", "Rearing code C10 not valid (ERTI)"},
-     {"Le code d'élevage C10 (colonnes 109 à 112) d'un ERTI de genre CRE ou MOD doit être 0, 1, 2 ou 3 "
-      "suivi de trois blancs quand la production C5 vaut M, et rester en blanc sinon.",
-      "The rearing code C10 (columns 109 to 112) of an ERTI record of kind CRE or MOD must be 0, 1, 2 or "
-      "3 followed by three blanks when the production C5 is M, and stay blank otherwise."},
+     {"Code C10 incorrect (ERTI)", "Code C10 not valid (ERTI)"},
+     {"Le code C10 (colonnes 109 à 112) d'un ERTI de genre CRE ou MOD doit être 0, 1, 2 ou 3 suivi de trois "
+      "blancs quand la production C5 vaut M, et rester en blanc sinon.",
+      "The code C10 (columns 109 to 112) of an ERTI record of kind CRE or MOD must be 0, 1, 2 or 3 followed "
+      "by three blanks when the production C5 is M, and stay blank otherwise."},
      {"Contrôlez la production C5, puis inscrivez un chiffre de 0 à 3 à gauche du champ, ou quatre blancs.",
       "Check the production C5, then write a digit from 0 to 3 at the left of the field, or four blanks."}},
     {148,
@@ -1037,11 +1039,11 @@ constexpr sErreur tErreurs[] = {
      {"Écrivez les six caractères du modèle à gauche du champ, puis deux blancs.",
       "Write the six characters of the model from the left of the field, then two blanks."}},
     {154,
-     {"Modèle de boucle : fabricant inconnu", "Tag model: maker unknown"},
-     {"Le premier caractère du modèle de boucle, celui du fabricant, n'est pas une lettre de A à N.",
-      "The first character of the tag model, that of the maker, is not a letter from A to N."},
-     {"Inscrivez en première position la lettre du fabricant, de A à N.",
-      "Write the maker's letter, from A to N, in the first position."}},
+     {"Modèle de boucle : premier caractère inconnu", "Tag model: first character unknown"},
+     {"Le premier caractère du modèle de boucle n'est pas une lettre de A à N.",
+      "The first character of the tag model is not a letter from A to N."},
+     {"Inscrivez en première position une lettre de A à N.",
+      "Write a letter from A to N in the first position."}},
     {155,
      {"Modèle de boucle : deuxième caractère inconnu", "Tag model: second character unknown"},
      {"Le deuxième caractère du modèle de boucle n'est pas admis : c'est B dans NUMA et REBO, Z, C ou O "
@@ -1052,10 +1054,10 @@ constexpr sErreur tErreurs[] = {
       "Correct the second character: B in NUMA and REBO, Z, C or O in GROC and PICO."}},
     {156,
      {"Modèle de boucle : troisième caractère inconnu", "Tag model: third character unknown"},
-     {"Le troisième caractère du modèle de boucle n'est ni E ni C. Dans GROC et PICO, E entraîne un "
-      "compteur.",
-      "The third character of the tag model is neither E nor C. In GROC and PICO, E brings a counter with "
-      "it."},
+     {"Le troisième caractère du modèle de boucle n'est ni E ni C. Dans GROC et PICO, E rend le compteur "
+      "obligatoire.",
+      "The third character of the tag model is neither E nor C. In GROC and PICO, E makes the counter "
+      "compulsory."},
      {"Inscrivez E ou C en troisième position.", "Write E or C in the third position."}},
     {157,
      {"Modèle de boucle : numéro mal écrit", "Tag model: number not well written"},
@@ -1072,21 +1074,21 @@ constexpr sErreur tErreurs[] = {
      {"Contrôlez le modèle de boucle, puis inscrivez un chiffre de 0 à 7, ou un blanc.",
       "Check the tag model, then write a digit from 0 to 7, or a blank."}},
     {159,
-     {"Pays de l'indicatif autre que FR (IMOC)", "Country of the mark other than FR (IMOC)"},
+     {"Pays C1 autre que FR (IMOC)", "Country C1 other than FR (IMOC)"},
      {"Le code pays C1 (colonnes 63 et 64) d'un IMOC n'est pas FR.",
       "The country code C1 (columns 63 and 64) of an IMOC record is not FR."},
      {"Inscrivez FR dans les colonnes 63 et 64.", "Write FR in columns 63 and 64."}},
     {160,
-     {"Indicatif absent (IMOC)", "Mark missing (IMOC)"},
-     {"L'indicatif de marquage C2 (colonnes 65 à 76) d'un IMOC est vide.",
-      "The mark C2 (columns 65 to 76) of an IMOC record is blank."},
-     {"Inscrivez les six chiffres de l'indicatif, puis six blancs.",
-      "Write the six digits of the mark, then six blanks."}},
+     {"Numéro ovin ou caprin absent (IMOC)", "Ovine or caprine number missing (IMOC)"},
+     {"Le numéro C2 (colonnes 65 à 76) d'un IMOC est vide.",
+      "The number C2 (columns 65 to 76) of an IMOC record is blank."},
+     {"Inscrivez les six chiffres du numéro, puis six blancs.",
+      "Write the six digits of the number, then six blanks."}},
     {161,
-     {"Indicatif mal formé (IMOC)", "Mark not well formed (IMOC)"},
-     {"L'indicatif de marquage C2 (colonnes 65 à 76) d'un IMOC n'est pas fait de six chiffres de 100000 à "
-      "683499, puis de six blancs.",
-      "The mark C2 (columns 65 to 76) of an IMOC record is not six digits from 100000 to 683499, then six "
+     {"Numéro ovin ou caprin mal formé (IMOC)", "Ovine or caprine number not well formed (IMOC)"},
+     {"Le numéro C2 (colonnes 65 à 76) d'un IMOC n'est pas fait de six chiffres de 100000 à 683499, puis de "
+      "six blancs.",
+      "The number C2 (columns 65 to 76) of an IMOC record is not six digits from 100000 to 683499, then six "
       "blanks."},
      {"Écrivez les six chiffres à gauche du champ et laissez le reste en blanc.",
       "Write the six digits from the left of the field and leave the rest blank."}},
@@ -1138,11 +1140,11 @@ constexpr sErreur tErreurs[] = {
      {"Inscrivez une catégorie de la liste, en six majuscules.",
       "Write a category of the list, in six capitals."}},
     {170,
-     {"Effectif mal écrit (RACO)", "Count not well written (RACO)"},
-     {"L'effectif C6 (colonnes 89 à 94) d'un RACO de genre CRE ou MOD n'est pas écrit sur six chiffres.",
-      "The count C6 (columns 89 to 94) of a RACO record of kind CRE or MOD is not written in six digits."},
-     {"Écrivez l'effectif sur six chiffres, avec des zéros à gauche, par exemple 000042.",
-      "Write the count in six digits, with zeros on the left, for example 000042."}},
+     {"Champ C6 autre que six chiffres (RACO)", "Field C6 other than six digits (RACO)"},
+     {"Le champ C6 (colonnes 89 à 94) d'un RACO de genre CRE ou MOD n'est pas écrit sur six chiffres.",
+      "Field C6 (columns 89 to 94) of a RACO record of kind CRE or MOD is not written in six digits."},
+     {"Écrivez un nombre sur six chiffres, avec des zéros à gauche, par exemple 000042.",
+      "Write a number in six digits, with zeros on the left, for example 000042."}},
     {171,
      {"Genre d'identifiant autre que D ou E (ASSO)", "Kind of identifier other than D or E (ASSO)"},
      {"Le genre d'identifiant C4 (colonne 79) d'un ASSO n'est ni D ni E.",
@@ -1194,7 +1196,7 @@ constexpr sErreur tErreurs[] = {
      {"Plage de numéros trop longue (NUMA)", "Range of numbers too long (NUMA)"},
      {"Dans un NUMA, le premier numéro C5 (ses huit chiffres après le département) et la quantité C6 "
       "dépassent ensemble 100000000 : la plage sort du département.",
-      "In a NUMA record the first number C5 (its eight digits behind the department) and the count C6 "
+      "In a NUMA record the first number C5 (its eight digits after the department) and the count C6 "
       "together exceed 100000000: the range leaves the department."},
      {"Réduisez la quantité, ou commencez la plage par un numéro plus petit.",
       "Reduce the count, or begin the range with a smaller number."}},
@@ -1308,8 +1310,8 @@ constexpr sFatal tFatals[] = {
      {"Plus de 10000 enregistrements", "More than 10000 records"},
      {"Le fichier contient plus de 10000 enregistrements après l'enregistrement FICH. Le traitement "
       "s'arrête avec le statut 1 et rien n'est publié.",
-      "The file holds more than 10000 records behind the FICH record. The run ends with status 1 and "
-      "nothing is published."},
+      "The file holds more than 10000 records after the FICH record. The run ends with status 1 and nothing "
+      "is published."},
      {"L'entrée est rendue sous son nom. Partagez-la en plusieurs fichiers, chacun avec son enregistrement "
       "FICH et le nombre qui lui correspond, puis relancez.",
       "The input is given back under its name. Split it into several files, each with its FICH record "
@@ -1408,7 +1410,7 @@ constexpr sFatal tFatals[] = {
       "The input is given back under its name. Put the FICH record at the head of the file and check "
       "that no character stands before it (a byte order mark, for example), then run again."}},
     {"IG014",
-     {"Aucun enregistrement après FICH", "No record behind FICH"},
+     {"Aucun enregistrement après FICH", "No record after FICH"},
      {"Le dernier enregistrement traité est un enregistrement FICH : aucun message ne le suit. Le "
       "traitement s'arrête avec le statut 1 et rien n'est publié.",
       "The last record processed is a FICH record: no message follows it. The run ends with status 1 and "

@@ -63,14 +63,14 @@ const sListe LISTES[] = {
            "Codes of eight columns: the three characters of a department, “IPG” and two blanks."}),
     LISTE(versionVSE,
           {"version du format", "format version"},
-          {"La version de trois chiffres que le champ de fin F3 de l'enregistrement FICH doit porter.",
+          {"La version de trois chiffres que le champ de pied F3 de l'enregistrement FICH doit porter.",
            "The version of three digits that footer field F3 of the FICH record must hold."}),
     LISTE(BDN8,
           {"code de la base destinataire", "code of the destination database"},
           {"Le code de huit colonnes, blancs compris, que porte le champ d'en-tête E10 d'un message.",
            "The code of eight columns, blanks included, that header field E10 of a message holds."}),
     LISTE(BDN031,
-          {"code du destinataire", "receiver code"},
+          {"code du récepteur", "receiver code"},
           {"Le code de huit colonnes, blancs compris, que porte le champ d'en-tête E4 de l'enregistrement "
            "FICH.",
            "The code of eight columns, blanks included, that header field E4 of the FICH record holds."}),
@@ -224,7 +224,7 @@ const sListe LISTES[] = {
           {"Codes d'un caractère, comparés à l'identique.", "Codes of one character, compared exactly."}),
     LISTE(FAB_REP,
           {"premiers caractères d'un modèle de boucle", "first characters of a tag model"},
-          {"Codes d'un caractère, un par fabricant.", "Codes of one character, one for each maker."}),
+          {"Codes d'un caractère, comparés à l'identique.", "Codes of one character, compared exactly."}),
     LISTE(TYP_COM,
           {"types de commande de boucles", "types of tag order"},
           {"Codes de deux caractères que le champ C9 de PICO peut porter.",
@@ -262,9 +262,10 @@ const sListe LISTES[] = {
            "number."}),
     LISTE(TDD,
           {"codes de département à trois caractères", "three-character department codes"},
-          {"Codes de trois caractères, de « 001 » à « 095 » avec « 02A » et « 02B », puis outre-mer et « "
-           "098 ».",
-           "Codes of three characters, from “001” to “095” with “02A” and “02B”, then overseas and “098”."}),
+          {"Codes de trois caractères, de « 001 » à « 095 » sauf « 020 », puis « 02A », « 02B », l'outre-mer "
+           "et « 098 ».",
+           "Codes of three characters, from “001” to “095” except “020”, then “02A”, “02B”, overseas and "
+           "“098”."}),
     // Countries.
     LISTE(TECH,
           {"codes des pays d'échange", "codes of the exchange countries"},

@@ -19,7 +19,7 @@ namespace quilvane::guide {
 
 namespace {
 
-constexpr texte T_NUMERO_INCONNU = {"{0} n'est ni un numéro d'erreur ni un code du journal",
+constexpr texte T_NUMERO_INCONNU = {"{0} n'est ni un numéro d'erreur ni un code du log",
                                     "{0} is neither an error number nor a code of the log"};
 constexpr texte T_TYPE_INCONNU = {"type de message inconnu : {0}", "unknown message type: {0}"};
 constexpr texte T_GENRE_INCONNU = {"{0} n'a pas d'exemple de genre {1} ; genres : {2}",

@@ -24,7 +24,7 @@ constexpr texte T_INTERDIT = {"interdit pour {0} (erreur 86)", "not allowed for 
 constexpr texte T_TOUJOURS = {"contrôlé dans tout enregistrement", "checked in every record"};
 constexpr texte T_TITRE_CATALOGUE = {"Champs et règles des messages", "Fields and rules of the messages"};
 constexpr texte T_TITRE_ERREURS = {"Numéros d'erreur", "Error numbers"};
-constexpr texte T_TITRE_FATALES = {"Codes du journal", "Codes of the log"};
+constexpr texte T_TITRE_FATALES = {"Codes du log", "Codes of the log"};
 constexpr texte T_TITRE_LISTES = {"Listes de valeurs", "Value lists"};
 constexpr texte T_ECRIT = {
     "Écrit par `quilvane-guide {0} --format markdown --langue fr` ; ne pas modifier à la main.",

@@ -51,7 +51,7 @@ constexpr sCommande COMMANDES[] = {
      3,
      "",
      "",
-     {"explique un numéro d'erreur ou un code du journal", "explains an error number or a code of the log"},
+     {"explique un numéro d'erreur ou un code du log", "explains an error number or a code of the log"},
      {"NUMERO s'écrit 68, I0681, IG008 ou I073. Avec un type de message, puis un champ, seules les règles de "
       "ce "
       "type et de ce champ sont montrées.",
@@ -148,7 +148,7 @@ constexpr sOption OPTIONS[] = {
      AUCUN,
      "",
      false,
-     {"donne aussi les erreurs au-delà de la dixième", "also tells the errors behind the tenth"}},
+     {"donne aussi les erreurs au-delà de la dixième", "also tells the errors beyond the tenth"}},
     {'S',
      "source",
      nullptr,

@@ -32,8 +32,8 @@ constexpr texte T_SANS_SOURCE = {
     "Donnez le fichier d'origine avec --source pour voir la ligne et la colonne de chaque erreur.",
     "Give the file that was sent with --source to see the line and column of each error."};
 constexpr texte T_AUTRE = {
-    "Ce fichier n'est pas celui auquel {0} répond : l'enregistrement en erreur n° {1} n'a pas son pareil.",
-    "This file is not the one that {0} answers: its error record no. {1} has no equal."};
+    "Ce fichier n'est pas celui auquel {0} répond : l'enregistrement en erreur n° {1} n'y correspond à rien.",
+    "This file is not the one that {0} answers: its error record no. {1} has no counterpart there."};
 
 int plaindre(const texte& m, eLangue langue, std::initializer_list<std::string_view> arguments) {
     std::fprintf(stderr, "quilvane-guide: %s\n", remplir(m, langue, arguments).c_str());

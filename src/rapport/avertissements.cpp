@@ -13,16 +13,15 @@ constexpr std::string_view BOM = "\xEF\xBB\xBF";
 
 constexpr texte T_BOM = {
     "Le fichier commence par une marque d'ordre des octets (BOM) : trois octets invisibles qui décalent le "
-    "premier enregistrement. Enregistrez-le en ASCII ou en « UTF-8 sans BOM ».",
+    "premier enregistrement. Enregistrez le fichier en ASCII ou en « UTF-8 sans BOM ».",
     "The file begins with a byte order mark (BOM): three invisible bytes that shift the first record. Save "
-    "it "
-    "as ASCII or as “UTF-8 without BOM”."};
+    "the file as ASCII or as “UTF-8 without BOM”."};
 constexpr texte T_UTF8 = {
     "Cet enregistrement contient une lettre accentuée écrite en UTF-8 (deux octets ou plus) : elle n'est pas "
-    "admise et décale toutes les colonnes derrière elle. Écrivez la lettre sans accent.",
+    "admise et décale toutes les colonnes qui suivent. Écrivez la lettre sans accent.",
     "This record contains an accented letter written in UTF-8 (two bytes or more): it is not allowed and "
     "shifts "
-    "every column behind it. Write the letter without accent."};
+    "every column after it. Write the letter without accent."};
 constexpr texte T_HAUT = {
     "Cet enregistrement contient un octet au-delà de 0x7E (lettre accentuée en Latin-1, par exemple) : "
     "écrivez la lettre sans accent.",
@@ -45,7 +44,7 @@ constexpr texte T_SANS_FIN = {
     "La dernière ligne n'a pas de fin de ligne : son enregistrement est ignoré. Ajoutez une fin de ligne.",
     "The last line has no line end: its record is ignored. Add a line end."};
 constexpr texte T_CTRL_Z = {"Un Ctrl-Z (octet 0x1A) termine le fichier ici : rien de ce qui suit n'est lu.",
-                            "A Ctrl-Z (byte 0x1A) ends the file here: nothing behind it is read."};
+                            "A Ctrl-Z (byte 0x1A) ends the file here: nothing after it is read."};
 constexpr texte T_MELANGE = {
     "Les fins de ligne changent ici : {0} depuis la ligne {1}, {2} à partir de celle-ci. Un fichier n'en a "
     "qu'une sorte.",

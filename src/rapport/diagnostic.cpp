@@ -27,7 +27,7 @@ constexpr texte T_PROCHES = {"Peut-être {0} ?", "Perhaps {0}?"};
 constexpr texte T_DECOULE = {"Découle sans doute de l'erreur {0}{1} : corrigez d'abord celle-là.",
                              "Probably follows from error {0}{1}: mend that one first."};
 constexpr texte T_DERRIERE = {"(au-delà de la dixième erreur : quilvane ne l'écrit pas)",
-                              "(behind the tenth error: quilvane does not write it)"};
+                              "(beyond the tenth error: quilvane does not write it)"};
 constexpr texte T_RECORD = {"enregistrement {0}", "record {0}"};
 constexpr accord LUS = {{"{0} enregistrement lu", "{0} record read"},
                         {"{0} enregistrements lus", "{0} records read"}};
@@ -132,6 +132,12 @@ std::string comptes(const sResume& r, eLangue langue) {
 const texte& verdictDe(int statut) { return statut == 0 ? T_ACCEPTE : statut == 2 ? T_REFUSE : T_ARRET; }
 const char* styleDe(int statut, const sStyles& s) { return statut == 0 ? s.bon : s.erreur; }
 
+/** Whether the blank at `i` belongs to the French punctuation after it, which begins no line. */
+bool avantPonctuation(std::string_view t, std::size_t i) {
+    constexpr std::string_view HAUTE = ":;!?";
+    return i + 1 < t.size() && HAUTE.find(t[i + 1]) != std::string_view::npos;
+}
+
 /** Length of the piece up to the next blank outside of quotes, npos for all. */
 std::size_t finDuMot(std::string_view t) {
     int guillemets = 0;
@@ -139,7 +145,7 @@ std::size_t finDuMot(std::string_view t) {
         const std::string_view reste = t.substr(i);
         if (reste.starts_with("«") || reste.starts_with("“")) ++guillemets;
         if (reste.starts_with("»") || reste.starts_with("”")) --guillemets;
-        if (t[i] == ' ' && guillemets <= 0) return i;
+        if (t[i] == ' ' && guillemets <= 0 && !avantPonctuation(t, i)) return i;
     }
     return t.find(' ') == std::string_view::npos || guillemets <= 0 ? std::string_view::npos : t.find(' ');
 }

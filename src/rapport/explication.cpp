@@ -13,7 +13,7 @@ constexpr int ERR_NOMBRE_VSE = 100;
 constexpr int ERR_SANS_EXP2 = 105;
 
 constexpr texte T_INTERDIT = {"Ce champ n'est pas admis pour un enregistrement {0} de genre {1}.",
-                              "This field is not allowed in a record {0} of transaction kind {1}."};
+                              "This field is not allowed in a record of type {0} and transaction kind {1}."};
 constexpr texte T_GENRE_INCONNU = {
     "Le genre {0} n'est pas un genre connu : aucun champ du corps n'est admis.",
     "{0} is not a known transaction kind: no field of the body is allowed."};
@@ -42,7 +42,7 @@ constexpr texte T_129 = {
     "In a file of the emitter “NORM01”, field E8 of an ABAT must be “NORMABEV”; it holds {0}."};
 constexpr texte T_109 = {
     "Le fichier ne contient qu'un enregistrement FICH, le premier ; celui-ci est de trop.",
-    "A file has only one FICH record, the first one; this one is too many."};
+    "A file has only one FICH record, the first one; this one is one too many."};
 constexpr texte T_C3 = {"Le champ C3 porte « xx », ce que l'émetteur du fichier ({0}) ne peut pas envoyer.",
                         "Field C3 holds “xx”, which the emitter of the file ({0}) may not send."};
 constexpr texte T_182 = {
@@ -62,12 +62,13 @@ constexpr accord MESSAGES = {{"{0} message", "{0} message"}, {"{0} messages", "{
 constexpr texte T_COMPAGNON = {
     "Cette création doit être suivie aussitôt d'un enregistrement {0} de genre CRE dont le champ C2 répète "
     "{1}. {2}",
-    "This creation must be followed at once by a record {0} of kind CRE whose field C2 repeats {1}. {2}"};
+    "This creation must be followed at once by a record of type {0} and kind CRE whose field C2 repeats {1}. "
+    "{2}"};
 constexpr texte T_SUIVANT = {"Le suivant (ligne {0}) est un enregistrement {1} de genre {2}.",
-                             "The next one (line {0}) is a record {1} of kind {2}."};
+                             "The next one (line {0}) is a record of type {1} and kind {2}."};
 constexpr texte T_SUIVANT_AUTRE = {
     "Le suivant (ligne {0}) est bien un {1} de genre {2}, mais son C2 est {3}.",
-    "The next one (line {0}) is indeed a {1} of kind {2}, but its C2 is {3}."};
+    "The next one (line {0}) is indeed of type {1} and kind {2}, but its C2 is {3}."};
 constexpr texte T_SUIVANT_RIEN = {"Le fichier s'arrête là.", "The file ends there."};
 
 void placer(sErreurVue& e, const sPlace& place) {

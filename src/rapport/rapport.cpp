@@ -16,7 +16,7 @@ constexpr accord ISSUE_ACCEPTE = {{"quilvane publierait le message tel quel (sta
                                    "quilvane would publish the message as it is (status 0)."},
                                   {"quilvane publierait les {0} messages tels quels (statut 0).",
                                    "quilvane would publish the {0} messages as they are (status 0)."}};
-constexpr texte ISSUE_ARRET = {"quilvane s'arrêterait sans rien publier (statut 1, journal : {0}).",
+constexpr texte ISSUE_ARRET = {"quilvane s'arrêterait sans rien publier (statut 1, log : {0}).",
                                "quilvane would stop and publish nothing (status 1, log: {0})."};
 constexpr accord ISSUE_REFUSE = {
     {"quilvane ne publierait aucun message, mais un fichier d'erreurs : {0} enregistrement en erreur "

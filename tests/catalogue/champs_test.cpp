@@ -214,7 +214,7 @@ TEST(CatalogueDesChamps, SeLitDansLesDeuxLangues) {
 TEST(CatalogueDesChamps, RetrouveUnChampParSaTableEtSonNumero) {
     for (const sChamp& champ : champs)
         EXPECT_EQ(libelleDe(champ.table, champ.numChamp), &champ);
-    EXPECT_STREQ(libelleDe("NAIS", C6)->libelle.en, "Birth date");
+    EXPECT_STREQ(libelleDe("NAIS", C6)->libelle.en, "Date of birth");
     EXPECT_STREQ(libelleDe("E", E6)->libelle.fr, "Type de message");
     EXPECT_STREQ(libelleDe("F", F1)->libelle.fr, "Date de l'enregistrement");
     EXPECT_EQ(libelleDe("NAIS", C18), nullptr);  // not cut

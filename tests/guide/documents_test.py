@@ -38,15 +38,19 @@ class Documents(banc.Cas):
             self.assertIn(ligne.split("  ")[-1], erreurs)
 
     def test_extrait(self):
-        """README.md shows what the program answers to the command above it."""
-        lisez = (banc.RACINE / "README.md").read_text()
-        debut = lisez.index("$ quilvane-guide verifier ")
-        extrait = lisez[debut:lisez.index("```", debut)]
-        commande, attendu = extrait.split("\n", 1)
+        """README.md and LISEZMOI.md show what the program answers to the command above it."""
         (self.dossier / "exemples").symlink_to(banc.RACINE / "exemples")
-        statut, sortie, _ = self.guide(*commande.split()[2:], langue="en")
-        self.assertEqual(statut, 2)
-        self.assertEqual(attendu, sortie.decode())
+        for document, langue in ("README.md", "en"), ("LISEZMOI.md", "fr"):
+            with self.subTest(document):
+                lisez = (banc.RACINE / document).read_text()
+                debut = lisez.index("$ quilvane-guide verifier ")
+                extrait = lisez[debut:lisez.index("```", debut)]
+                commande, attendu = extrait.split("\n", 1)
+                statut, sortie, _ = self.guide(*commande.split()[2:], langue=langue)
+                self.assertEqual(statut, 2)
+                self.assertEqual(attendu, sortie.decode())
+                # French punctuation stays on the line of the word before it.
+                self.assertNotRegex(attendu, "(?m)^ *[:;!?]")
 
 
 if __name__ == "__main__":
