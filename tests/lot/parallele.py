@@ -10,6 +10,7 @@ import json
 import os
 import pathlib
 import re
+import shlex
 import shutil
 import signal
 import subprocess
@@ -149,6 +150,20 @@ def essayer_fichiers(ecrire_liste, passer, choix, sorties):
     exiger(notes("passages") == obtenus, "what is done was done again")
 
 
+def essayer_log(ecrire_liste, passer, sorties):
+    """A publication that failed leaves status 0 and a line in the log: noted as 1."""
+    os.makedirs("echec_tu/bin")
+    os.makedirs("echec_tu/recus")
+    os.chdir("echec_tu")
+    pathlib.Path("bin/quilvane").write_text("#!/bin/sh\necho IG010 > log\n", encoding="ascii")
+    os.chmod("bin/quilvane", 0o755)
+    pathlib.Path("recus/a").write_bytes(b"x\n")
+    ligne = ecrire_liste + "; PATH=$PWD/bin:$PATH; exec " + passer
+    statut = lancer("sh -c " + shlex.quote(ligne), sorties).wait(PATIENCE)
+    exiger((statut, notes("passages")) == (1, [(1, 1, 0)]), "a line in the log was not seen")
+    os.chdir("..")
+
+
 def essayer_depot(passer, choix, sorties):
     """Four runners on one spool, all of them killed, then given again."""
     entrees = deposer("DEPOT/arrivee", choix)
@@ -187,6 +202,7 @@ def main():
         with open("sorties", "wb") as sorties:
             liste, passer, depot = commandes(source)
             choix = modeles(source)
+            essayer_log(liste, passer, sorties)
             essayer_fichiers(liste, passer, choix, sorties)
             essayer_depot(depot, choix, sorties)
     except AssertionError as faute:
