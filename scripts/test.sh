@@ -12,7 +12,7 @@ set -euo pipefail
 cd "$racine"
 
 [ $# -gt 0 ] || set -- release sanitize
-paquets=(g++ cmake ninja-build rapidjson-dev nettle-dev libgtest-dev faketime python3
+paquets=(g++ cmake ninja-build rapidjson-dev nettle-dev libgtest-dev faketime parallel python3
     python3-jsonschema)
 case " $* " in *" clang "*) paquets+=(clang) ;; esac
 case " $* " in *" page "*) paquets+=(chromium) ;; esac
