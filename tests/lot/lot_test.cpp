@@ -133,7 +133,8 @@ TEST(Lot, DepotInutilisable) {
     };
     EXPECT_EQ(lot("absent").statut, 3);
     EXPECT_EQ(lot("bin/quilvane").statut, 3);
-    const resultat francais = lancerProgramme(s.d.nom("bin/quilvane-lot"), s.d, {"--langue", "fr", "absent"}, o);
+    const resultat francais =
+        lancerProgramme(s.d.nom("bin/quilvane-lot"), s.d, {"--langue", "fr", "absent"}, o);
     EXPECT_EQ(francais.erreur.find("quilvane-lot: impossible d'ouvrir le dépôt : absent : "), 0U)
         << francais.erreur;
     fs::create_directory_symlink(s.d.nom("bin"), s.d.nom("depot/emis"));
