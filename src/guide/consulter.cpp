@@ -84,7 +84,8 @@ int expliquerNumero(const sDemandeLue& d) {
     const std::string regles = reglesDuNumero(e->numero, {.table = table, .champ = champ}, d.langue, s);
     std::string t = ficheErreur(*e, d.langue, s);
     if (!regles.empty()) t += "\n" + regles;
-    if (regles.empty() && table != nullptr)
+    // A number that no table holds arises from the order of the records, as its sheet has said.
+    if (regles.empty() && table != nullptr && !reglesDuNumero(e->numero, {}, d.langue, s).empty())
         t += "\n" +
              remplir(T_PAS_ICI, d.langue, {std::string(table->nom) + (champ.empty() ? "" : " " + champ)}) +
              "\n";

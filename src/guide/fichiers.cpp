@@ -19,6 +19,7 @@ namespace {
 constexpr texte T_SORTIE = {"{0} ne peut être écrit : {1}", "{0} cannot be written: {1}"};
 constexpr texte T_EXISTE = {"{0} existe déjà (--remplacer pour le remplacer)",
                             "{0} exists already (--remplacer to replace it)"};
+constexpr texte T_SANS_DOSSIER = {"son dossier n'existe pas", "its folder does not exist"};
 constexpr texte T_SORTIE_STANDARD = {"la sortie standard", "standard output"};
 constexpr texte T_ENTREE = {"c'est un des fichiers à lire", "it is one of the files to be read"};
 
@@ -154,8 +155,9 @@ bool ouvrirSortie(sEcriture& e, const sDemandeLue& d) {
     const int descripteur = ouvrirEcriture(d);
     if (descripteur < 0) {
         const int cause = errno;
-        return cause == EEXIST ? plaindre(T_EXISTE, d.langue, nom)
-                               : plaindre(T_SORTIE, d.langue, nom, raisonDe(cause, d.langue));
+        if (cause == EEXIST) return plaindre(T_EXISTE, d.langue, nom);
+        return plaindre(T_SORTIE, d.langue, nom,
+                        cause == ENOENT ? T_SANS_DOSSIER.en_langue(d.langue) : raisonDe(cause, d.langue));
     }
     struct stat s = {};
     std::string raison;

@@ -15,6 +15,8 @@ namespace quilvane::guide {
 
 namespace {
 
+constexpr texte T_COQUILLES = {"completion : valeurs admises bash|zsh|fish",
+                               "completion: allowed values bash|zsh|fish"};
 constexpr texte T_NOM = {"dit à l'avance ce que quilvane refuserait, et pourquoi",
                          "tells beforehand what quilvane would refuse, and why"};
 constexpr texte T_DESCRIPTION = {
@@ -245,7 +247,7 @@ int completion(const sDemandeLue& d) {
     if (coquille == "bash") return imprimer(pourBash(), d.langue) ? STATUT_ACCEPTE : STATUT_ARRET;
     if (coquille == "zsh") return imprimer(pourZsh(d.langue), d.langue) ? STATUT_ACCEPTE : STATUT_ARRET;
     if (coquille == "fish") return imprimer(pourFish(d.langue), d.langue) ? STATUT_ACCEPTE : STATUT_ARRET;
-    std::fprintf(stderr, "quilvane-guide: bash|zsh|fish\n");
+    std::fprintf(stderr, "quilvane-guide: %s\n", T_COQUILLES.en_langue(d.langue));
     return STATUT_USAGE;
 }
 

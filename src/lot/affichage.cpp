@@ -163,9 +163,8 @@ void dire(ecran& e, const texte& quoi, std::initializer_list<std::string> valeur
 }
 
 void montrerTotal(ecran& e, const total& t, double secondes, long nonReposes, double repos) {
-    if (t.finis() == 0)
-        dire(e, BILAN_RIEN, {});
-    else
+    if (t.finis() == 0 && t.pannes == 0 && t.rendus == 0) dire(e, BILAN_RIEN, {});
+    if (t.finis() > 0)
         dire(e, BILAN_TITRE,
              {std::to_string(t.finis()), decimal(secondes),
               decimal(static_cast<double>(t.finis()) / std::max(secondes, 0.001)), std::to_string(t.emis),

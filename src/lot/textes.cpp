@@ -74,27 +74,29 @@ const ligneCause CAUSES[NB_CAUSES] = {
      {"quilvane s'est terminé sans erreur, mais n'a laissé aucun résultat",
       "quilvane ended without an error but left no result"}},
     {"comptes",
-     {"les nombres d'enregistrements du résultat ne concordent pas avec ceux du fichier reçu",
-      "the record counts of the result do not fit those of the input"}},
+     {"les nombres d'enregistrements du résultat ne concordent pas avec ceux du fichier reçu ;"
+      " souvent une ligne y finit par un CR seul, que quilvane compte et saute",
+      "the record counts of the result do not fit those of the input; often a line of it ends"
+      " in a CR alone, which quilvane counts and leaves out"}},
     {"illisible", {"le fichier ne peut pas être lu", "the file cannot be read"}},
 };
 
-const texte ETAPE_OUVRIR_DEPOT = {"ouvrir le dépôt", "open the spool"};
-const texte ETAPE_LISTER = {"lister les fichiers", "list the files"};
-const texte ETAPE_CASIER = {"ouvrir le dossier privé", "open the private folder"};
-const texte ETAPE_RETIRER = {"retirer le dossier privé", "remove the private folder"};
-const texte ETAPE_PRENDRE = {"prendre le fichier", "take the file"};
-const texte ETAPE_COPIER = {"copier le fichier", "copy the file"};
-const texte ETAPE_ARCHIVER = {"archiver le fichier", "archive the file"};
-const texte ETAPE_GARDER = {"vider l'archive", "clear the archive"};
-const texte ETAPE_PREPARER = {"préparer le passage de quilvane", "prepare the run of quilvane"};
-const texte ETAPE_LANCER = {"lancer le programme", "start the program"};
-const texte ETAPE_LIRE_RESULTAT = {"lire le résultat", "read the result"};
-const texte ETAPE_ECRIRE = {"écrire le fichier", "write the file"};
-const texte ETAPE_PUBLIER = {"ranger le fichier", "put the file in its place"};
-const texte ETAPE_JOURNAL = {"écrire dans le journal", "write to the journal"};
-const texte ETAPE_RENDRE = {"remettre le fichier dans arrivee", "put the file back into arrivee"};
-const texte ETAPE_METRIQUES = {"écrire les métriques", "write the metrics"};
+const texte ETAPE_OUVRIR_DEPOT = {"d'ouvrir le dépôt", "open the spool"};
+const texte ETAPE_LISTER = {"de lister les fichiers", "list the files"};
+const texte ETAPE_CASIER = {"d'ouvrir le dossier privé", "open the private folder"};
+const texte ETAPE_RETIRER = {"de retirer le dossier privé", "remove the private folder"};
+const texte ETAPE_PRENDRE = {"de prendre le fichier", "take the file"};
+const texte ETAPE_COPIER = {"de copier le fichier", "copy the file"};
+const texte ETAPE_ARCHIVER = {"d'archiver le fichier", "archive the file"};
+const texte ETAPE_GARDER = {"de vider l'archive", "clear the archive"};
+const texte ETAPE_PREPARER = {"de préparer le passage de quilvane", "prepare the run of quilvane"};
+const texte ETAPE_LANCER = {"de lancer le programme", "start the program"};
+const texte ETAPE_LIRE_RESULTAT = {"de lire le résultat", "read the result"};
+const texte ETAPE_ECRIRE = {"d'écrire le fichier", "write the file"};
+const texte ETAPE_PUBLIER = {"de ranger le fichier", "put the file in its place"};
+const texte ETAPE_JOURNAL = {"d'écrire dans le journal", "write to the journal"};
+const texte ETAPE_RENDRE = {"de remettre le fichier dans arrivee", "put the file back into arrivee"};
+const texte ETAPE_METRIQUES = {"d'écrire les métriques", "write the metrics"};
 
 const texte RAISON_TITRE = {"Ce fichier n'a pas pu être traité. Raison :",
                             "This file could not be processed. Reason:"};
@@ -141,7 +143,7 @@ const texte AVIS_SANS_GUIDE = {
     "quilvane-guide is not installed: refused files get no report"};
 const texte AVIS_RAPPORT = {"quilvane-guide n'a pas pu faire un rapport : un fichier refusé est sans rapport",
                             "quilvane-guide could not make a report: a refused file has none"};
-const texte AVIS_PANNE = {"impossible de %1 : %2 : %3", "cannot %1: %2: %3"};
+const texte AVIS_PANNE = {"impossible %1 : %2 : %3", "cannot %1: %2: %3"};
 const texte AVIS_CASIER = {"encours/%1 n'est pas un dossier de ce programme : il est laissé tel quel",
                            "encours/%1 is not a folder of this program: it is left alone"};
 const texte AVIS_ARRET = {

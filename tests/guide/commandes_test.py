@@ -143,7 +143,7 @@ class Commandes(banc.Cas):
         self.refuser(["lot", "-o", "fifo", "--remplacer"], "fifo ne peut être écrit : ce n'est pas un fichier ordinaire")
         self.refuser(["lot", "-o", "fifo"], "fifo existe déjà (--remplacer pour le remplacer)")
         self.refuser(["lot", "-o", ".", "--remplacer"], ". ne peut être écrit : c'est un dossier")
-        self.refuser(["lot", "-o", "absent/s"], "absent/s ne peut être écrit : ce fichier n'existe pas")
+        self.refuser(["lot", "-o", "absent/s"], "absent/s ne peut être écrit : son dossier n'existe pas")
         self.assertTrue(stat.S_ISFIFO((self.dossier / "fifo").stat().st_mode))
         self.assertEqual((self.dossier / "lot").read_bytes(), table)
 
@@ -189,6 +189,9 @@ class Commandes(banc.Cas):
             self.repondre("expliquer_" + mots.replace(" ", "_"), "expliquer", *mots.split())
         for autre in "I068", "i0681", "I68", "068":
             self.assertEqual(self.guide("expliquer", autre), self.guide("expliquer", "68"), autre)
+        # No table holds what the order of the records gives: its sheet says where it arises.
+        for numero, table in (("138", "EGET"), ("105", "EXP1")):
+            self.assertEqual(self.guide("expliquer", numero, table), self.guide("expliquer", numero))
 
     def test_listes(self):
         self.repondre("listes", "listes")

@@ -87,7 +87,7 @@ class Options(banc.Cas):
                              (["--couleur=oui", "erreurs"], "--couleur : valeurs admises auto|toujours|jamais")):
             self.assertEqual(self.refus(*mots), f"quilvane-guide: {raison}\n{voir}")
         self.assertEqual(self.refus("zz", langue="en"), "quilvane-guide: unknown command: zz\nSee quilvane-guide --help\n")
-        self.assertEqual(self.refus("completion", "tcsh"), "quilvane-guide: bash|zsh|fish\n")
+        self.assertEqual(self.refus("completion", "tcsh"), "quilvane-guide: completion : valeurs admises bash|zsh|fish\n")
 
     def test_couleur(self):
         """Colours when asked for; never by themselves in a file or pipe."""

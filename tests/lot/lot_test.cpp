@@ -133,6 +133,10 @@ TEST(Lot, DepotInutilisable) {
     };
     EXPECT_EQ(lot("absent").statut, 3);
     EXPECT_EQ(lot("bin/quilvane").statut, 3);
+    const resultat francais =
+        lancerProgramme(s.d.nom("bin/quilvane-lot"), s.d, {"--langue", "fr", "absent"}, o);
+    EXPECT_EQ(francais.erreur.find("quilvane-lot: impossible d'ouvrir le dépôt : absent : "), 0U)
+        << francais.erreur;
     fs::create_directory_symlink(s.d.nom("bin"), s.d.nom("depot/emis"));
     EXPECT_EQ(lot("depot").statut, 3);
     fs::remove(s.d.nom("depot/emis"));
@@ -140,6 +144,16 @@ TEST(Lot, DepotInutilisable) {
     EXPECT_EQ(lot("depot").statut, 3);
     EXPECT_EQ(lot("depot").erreur,
               "quilvane-lot: quilvane is found neither beside this program nor on PATH\n");
+}
+
+TEST(Lot, UnIncidentNEstPasUnDepotVide) {
+    const depotEssai s;
+    const std::string vide = "No file to process.\n";
+    EXPECT_EQ(s.lancerLot({}).sortie, vide);
+    const resultat r = s.lancerLot({"--metriques", "absent/m.prom"});
+    EXPECT_EQ(r.statut, 1);
+    EXPECT_EQ(r.sortie.find(vide), std::string::npos) << r.sortie;
+    EXPECT_EQ(r.sortie.find("Incidents: "), 0U) << r.sortie;
 }
 
 TEST(Lot, QuilvaneSurLeChemin) {
@@ -238,6 +252,7 @@ TEST(Lot, FauxQuilvane) {
     verifierEchec(bon + "rm emis; mkdir emis; exit 0\n", "resultat", "no result");
     verifierEchec(bon + "rm emis; ln -s log emis; exit 0\n", "resultat", "no result");
     verifierEchec(bon + "exit 0\n", "comptes", "do not fit");  // the FICH record counts 3
+    verifierEchec(bon + "exit 0\n", "comptes", "ends in a CR alone");
     verifierEchec(bon + ": > emis; exit 0\n", "comptes", "do not fit");
     verifierEchec(bon + "exit 2\n", "comptes", "do not fit");
     verifierEchec("kill -9 $$\n", "signal", "signal 9");
