@@ -6,7 +6,8 @@
 #                             committed yet
 #   scripts/style.sh tout     clang-tidy over every source
 #
-# A changed header is linted through the sources that include it by name.
+# A changed header is linted through the sources that include it by name. Linted
+# are the rooms of `quilvane` itself; guide, reports, runner and module are formatted only.
 set -euo pipefail
 . "$(dirname "$0")/paquets.sh"
 cd "$racine"
@@ -19,9 +20,10 @@ mapfile -t sources < <(git ls-files '*.cpp' '*.h')
 clang-format --dry-run --Werror "${sources[@]}" ||
     arreter "the format differs; mend it with: clang-format -i FILE..."
 
-mapfile -t unites < <(git ls-files 'src/*.cpp')
+mapfile -t unites < <(git ls-files 'src/*.cpp' | grep -vE '^src/(guide|rapport|page|module|lot|catalogue)/')
 if [ $# -eq 0 ] && git rev-parse --verify --quiet HEAD~1 >/dev/null; then
-    mapfile -t changes < <(git diff --name-only --diff-filter=d HEAD~1 -- src)
+    mapfile -t changes < <(git diff --name-only --diff-filter=d HEAD~1 -- src |
+        grep -vE '^src/(guide|rapport|page|module|lot|catalogue)/')
     retenues=()
     for fichier in "${changes[@]}"; do
         case $fichier in

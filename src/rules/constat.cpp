@@ -23,7 +23,8 @@ extrait texteDe(const constat& c) {
     if (c.ligne == nullptr) return {"", 0};
     const sCorps* const champ = champDe(c.ligne);
     const char* const debut = xdebug + champ->debut - 1;
-    return {debut, static_cast<int>(strnlen(debut, static_cast<std::size_t>(champ->fin - champ->debut + 1)))};
+    const int largeur = champ->fin - champ->debut + 1;
+    return {debut, static_cast<int>(strnlen(debut, static_cast<std::size_t>(largeur)))};
 }
 
 }  // namespace quilvane
