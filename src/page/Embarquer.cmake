@@ -79,7 +79,7 @@ string(CONCAT csp "default-src 'none'; style-src 'sha256-${CSS_empreinte}'; scri
   "img-src data:; base-uri 'none'; form-action 'none'")
 string(REPLACE "@CSP@" "${csp}" page "${page}")
 
-# The parts stand before, between and behind what the guide writes.
+# These pieces stand before, between and behind what the guide writes.
 set(source "")
 set(definitions "")
 foreach(partie Debut:@LANGUE@ Rapport:@RAPPORT@ Catalogue:@CATALOGUE@)

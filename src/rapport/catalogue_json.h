@@ -13,7 +13,7 @@
 
 namespace quilvane {
 
-/** The whole catalogue, or the part on one table. */
+/** The whole catalogue, or what concerns one table. */
 std::string catalogueJson(eLangue langue, const sTable* seule = nullptr);
 
 /** The transaction kinds with a presence column, in its order. */

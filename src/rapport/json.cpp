@@ -89,7 +89,7 @@ const sNumeroJson& jsonDuNumero(int numero, eLangue langue) {
     return r;
 }
 
-/** The parts of an error that do not change from record to record, in order:
+/** The members of an error that do not change from record to record, in order:
  *  between them stand the columns, the value depended on, the links. */
 struct sPartsJson {
     std::string champ;

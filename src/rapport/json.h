@@ -1,5 +1,5 @@
 /**
- * json.h - the parts of a report as JSON.
+ * json.h - the pieces of a report as JSON.
  */
 #ifndef QUILVANE_RAPPORT_JSON_H
 #define QUILVANE_RAPPORT_JSON_H

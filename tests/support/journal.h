@@ -11,7 +11,7 @@
 
 namespace essai {
 
-/** One line for each event; for rows the part and slot (from 1) in front. */
+/** One line for each event; for rows section and slot (from 1) in front. */
 struct journal {
     std::string texte;
     std::string refus;                              // "C1.31;" for each error of a row

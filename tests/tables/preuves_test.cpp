@@ -118,7 +118,7 @@ std::string phrase(const std::vector<sCorps>& table, const faute& f) {
     const std::map<eFaute, std::string> SENS = {
         {AUCUNE_FAUTE, "nothing is wrong"},
         {COLONNES, "its columns begin before the field before ends, or lie outside its part"},
-        {CHAMP_SANS_PLACE, "the part has no slot left for it"},
+        {CHAMP_SANS_PLACE, "its section has no slot left for it"},
         {LIGNE_EN_PLUS, "an extra row must follow its field"},
         {CHAMPS_EN_ORDRE, "field numbers must rise"},
         {PRESENCE, "a presence code is 0, 1 or 2, and not 0 without a check"},
