@@ -15,7 +15,7 @@ namespace quilvane {
  * what reading the list finds.
  */
 struct indexListe {
-    static constexpr int COURTE = 60;  // a list of up to so many entries needs none
+    static constexpr int COURTE = 18;  // a list of up to so many entries needs none
     static constexpr int BITS = 9;
     static constexpr unsigned TAILLE = 1U << BITS;  // more than twice the longest list
 

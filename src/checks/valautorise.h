@@ -1,7 +1,7 @@
 /**
  * valautorise.h - the allowed-value lists, in the order in which they are
  * searched. The assertion below a list states its width: every entry has the
- * exact width of its field. A list of more than 60 entries of one column has
+ * exact width of its field. A list of more than 18 entries of one column has
  * an index, which is made in valautorise.cpp.
  */
 #ifndef QUILVANE_CHECKS_VALAUTORISE_H
@@ -12,7 +12,8 @@
 namespace quilvane {
 
 extern const indexListe indexTD, indexTDC, indexTP, indexTR, indexTDD, indexTRG, indexTRFNV, indexTCPNOCEE,
-    indexTCPNOECH;
+    indexTCPNOECH, indexTEC, indexTCEE, indexTECH, indexTRSCRE, indexTRSMOD, indexTE6, indexTE6CRE, indexTE6INV,
+    indexTE6MOD;
 
 // clang-format off
 
@@ -24,13 +25,13 @@ inline constexpr liste tE6 = {{
     "ABAT", "ACTI", "ASSO", "DETE", "DETI", "ECBO", "ECHA", "EGET", "ENTR", "ERRE", "ERTI", "EXP1", "EXP2",
     "FICH", "GROC", "IMOC", "IMPO", "INFO", "JALO", "NAIS", "NUMA", "NVMN", "PASS", "PICO", "RACO", "RATA",
     "REBO", "SORT",
-}};
+}, 1, &indexTE6};
 static_assert(largeur(tE6) == 4);
 
 inline constexpr liste tE6CRE = {{
     "ABAT", "ACTI", "ASSO", "DETE", "DETI", "ECBO", "ECHA", "EGET", "ENTR", "ERTI", "EXP1", "EXP2", "GROC",
     "IMPO", "IMOC", "JALO", "NAIS", "NUMA", "NVMN", "PICO", "RACO", "RATA", "REBO", "SORT",
-}};
+}, 1, &indexTE6CRE};
 static_assert(largeur(tE6CRE) == 4);
 
 inline constexpr liste tE6DEM = {{"DETE", "GROC", "INFO", "NAIS", "PASS"}};
@@ -39,13 +40,13 @@ static_assert(largeur(tE6DEM) == 4);
 inline constexpr liste tE6INV = {{
     "ABAT", "ACTI", "ASSO", "DETE", "DETI", "ECBO", "ECHA", "EGET", "ENTR", "ERTI", "EXP1", "EXP2", "IMPO",
     "IMOC", "NAIS", "NVMN", "PASS", "REBO", "RACO", "SORT",
-}};
+}, 1, &indexTE6INV};
 static_assert(largeur(tE6INV) == 4);
 
 inline constexpr liste tE6MOD = {{
     "ABAT", "ACTI", "ASSO", "DETE", "DETI", "ECHA", "EGET", "ENTR", "ERTI", "EXP1", "EXP2", "IMPO", "NAIS",
     "NUMA", "NVMN", "RACO", "RATA", "REBO", "SORT",
-}};
+}, 1, &indexTE6MOD};
 static_assert(largeur(tE6MOD) == 4);
 
 inline constexpr liste tE6EDI = {{"PASS"}};
@@ -58,7 +59,7 @@ inline constexpr liste TEC = {{
     "001IPG  ", "003IPG  ", "013ARS  ", "018IPG  ", "021IPG  ", "023IPG  ", "025ARS  ", "02BIPG  ", "036IPG  ",
     "038IPG  ", "042ARS  ", "043IPG  ", "054ARS  ", "058IPG  ", "059ARS  ", "063IPG  ", "071IPG  ", "074ARS  ",
     "081ARS  ", "089ARS  ", "350ARS  ", "971IPG  ", "972IPG  ", "973IPG  ", "974IPG  ", "976IPG  ",
-}};
+}, 1, &indexTEC};
 static_assert(largeur(TEC) == 8);
 
 inline constexpr liste TDC = {{
@@ -321,13 +322,13 @@ static_assert(largeur(TDD) == 3);
 inline constexpr liste TCEE = {{
     "AT", "BE", "BG", "CY", "CZ", "DE", "DK", "EE", "EL", "ES", "FI", "FR", "HR", "HU", "IE", "IT", "LU", "LV",
     "LT", "MT", "NL", "PL", "PT", "RO", "SE", "SI", "UK", "SK", "XI",
-}};
+}, 1, &indexTCEE};
 static_assert(largeur(TCEE) == 2);
 
 inline constexpr liste TECH = {{
     "AT", "BE", "BG", "CH", "CY", "CZ", "DE", "DK", "EE", "EL", "ES", "FI", "FR", "HR", "HU", "IE", "IT", "LU",
     "LV", "LT", "MT", "NL", "PL", "PT", "RO", "SE", "SI", "UK", "SK", "XI",
-}};
+}, 1, &indexTECH};
 static_assert(largeur(TECH) == 2);
 
 inline constexpr liste TP = {{
@@ -415,7 +416,7 @@ inline constexpr liste TRSCRE = {{
     "SCEA", "SCEL", "SCI ", "SEA ", "SEF ", "SICA", "EPL ", "GFA ", "STEF", "VVE ", "MMES", "GAPE", "INDI",
     "COEX", "EURL", "COOP", "CEQU", "MAIR", "CIA ", "SNC ", "LEPA", "AUTR", "SAS ", "AFP ", "GP  ", "SCL ",
     "SCP ", "ENTR", "MLLE", "SOC ", "EIRL", "SASU", "EI  ", "SCIC",
-}};
+}, 1, &indexTRSCRE};
 static_assert(largeur(TRSCRE) == 4);
 
 inline constexpr liste TRSMOD = {{
@@ -423,7 +424,7 @@ inline constexpr liste TRSMOD = {{
     "SA  ", "SARL", "SCA ", "SCEA", "SCEL", "SCI ", "SEA ", "SEF ", "SICA", "STE ", "EPL ", "GFA ", "STEF",
     "VVE ", "MMES", "GAPE", "MRS ", "INDI", "COEX", "EURL", "COOP", "CEQU", "MAIR", "CIA ", "SNC ", "LEPA",
     "AUTR", "SAS ", "AFP ", "GP  ", "SCL ", "SCP ", "ENTR", "MLLE", "SOC ", "EIRL", "SASU", "EI  ", "SCIC",
-}};
+}, 1, &indexTRSMOD};
 static_assert(largeur(TRSMOD) == 4);
 
 // Series letters that each departmental body may issue: body, letters.
