@@ -30,7 +30,7 @@ struct ligneVSE {
         return *this;
     }
 
-    char tampon[4 * LARGEUR_VSE];
+    char tampon[64 * LARGEUR_VSE];
     std::size_t longueur = 0;
 };
 
@@ -80,10 +80,18 @@ void finVSENok(ligneVSE& l, const char* estampille);
 void faireVSEFICHNok(ligneVSE& l, const lot& de, const char* estampille);
 
 /** The two files of a run as they grow: what is added to each, line ends
- *  before each record. */
+ *  before each record. There is room for the records of several verdicts, so
+ *  that they can be written together. */
 struct ajouts {
     ligneVSE emis;  // the accepted records' file
     ligneVSE erre;  // the error records' file
+
+    /** Whether another verdict may not find room. */
+    bool pleins() const {
+        constexpr std::size_t PAR_VERDICT = 4 * LARGEUR_VSE;  // at most two records and their line ends
+        constexpr std::size_t SEUIL = sizeof ligneVSE::tampon - PAR_VERDICT;
+        return emis.longueur > SEUIL || erre.longueur > SEUIL;
+    }
 };
 
 /** What a record just judged adds. Nothing for the FICH record, which is

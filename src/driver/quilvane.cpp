@@ -191,26 +191,24 @@ bool traiterEnregistrements() {
     lecteur source;
     source.remplir = lireEntree;
     vse.vu = affichageVSE(visu);
-    for (verdict v;;) {
+    ajouts a;
+    verdict v;
+    eSuite suite = SUITE_VERDICT;
+    while (suite == SUITE_VERDICT || suite == SUITE_SAUTE) {
         if (interrompu()) {
             fermerFichiers();
             nePasEmettre();
             return false;
         }
-        const eSuite suite = suivant(vse, source, v);
-        if (suite == SUITE_FIN) break;
-        if (suite == SUITE_ARRET) return arreter(v.fatal);
-        if (suite == SUITE_SAUTE) continue;
-        ajouts a;
-        ajouterVerdict(a, vse, v);
-        ecrireAjouts(a);
+        suite = suivant(vse, source, v);
+        if (suite == SUITE_VERDICT) ajouterVerdict(a, vse, v);
+        if (suite == SUITE_ARRET || a.pleins()) ecrireAjouts(a);
     }
+    if (suite == SUITE_ARRET) return arreter(v.fatal);
     const bilan b = conclure(vse);
-    if (b.fatal != eFatal::AUCUN) return arreter(b.fatal);
-    ajouts a;
-    ajouterFin(a, vse, b);
+    if (b.fatal == eFatal::AUCUN) ajouterFin(a, vse, b);
     ecrireAjouts(a);
-    return true;
+    return b.fatal == eFatal::AUCUN || arreter(b.fatal);
 }
 
 /** Completes a temporary file with its FICH record and publishes it. */

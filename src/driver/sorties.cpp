@@ -30,9 +30,10 @@ void preparerSorties() {
     ecrire(fp_erre, place);
 }
 
-void ecrireAjouts(const ajouts& a) {
+void ecrireAjouts(ajouts& a) {
     ecrire(fp_emis, a.emis);
     ecrire(fp_erre, a.erre);
+    a.emis.longueur = a.erre.longueur = 0;
 }
 
 void ecrireVSEFICH(const lot& l, bool valide) {

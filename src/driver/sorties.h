@@ -14,8 +14,8 @@ namespace quilvane {
  *  records with 256 blanks. */
 void preparerSorties();
 
-/** Writes what a record, or the end of the file, adds to either file. */
-void ecrireAjouts(const ajouts& a);
+/** Writes what has been added to either file, and leaves nothing to add. */
+void ecrireAjouts(ajouts& a);
 
 /** Rewrites the first 256 columns of the file to publish as its FICH record. */
 void ecrireVSEFICH(const lot& l, bool valide);

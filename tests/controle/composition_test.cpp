@@ -199,9 +199,31 @@ TEST_F(Composition, VSEERRDeChampsTropLarges) {
         remplir(valEnteteVSE[E9], "99999999");
         const std::string debut = std::string(768, 'x') + std::string(large, 'y') + "ERRERRE" +
                                   std::string(large % 18, '7') + "INTERFAC99999999089ARS  ";
-        const std::string e = erreurs("FR", "78123456    ", {31});
-        EXPECT_EQ(e.size(), 1024U);
-        EXPECT_EQ(e.substr(0, debut.size()), debut.substr(0, e.size()));
+        EXPECT_EQ(erreurs("FR", "78123456    ", {31}).substr(0, debut.size()), debut);
+        // What does not fit behind the records before it is dropped.
+        constexpr std::size_t PLACE = 1024;
+        constexpr int CODE = 31;
+        ligneVSE r;
+        r.blancs(sizeof r.tampon - PLACE);
+        faireVSEERR(r, "FR", "78123456    ", 1, valEnteteVSE, valCorpsVSE, &CODE, ESTAMPILLE);
+        ASSERT_EQ(r.longueur, sizeof r.tampon);
+        EXPECT_EQ(std::string(r.tampon + sizeof r.tampon - PLACE, PLACE).substr(0, debut.size()),
+                  debut.substr(0, PLACE));
+    }
+}
+
+TEST_F(Composition, PleinsQuandUnVerdictPeutNePasTenir) {
+    // An accepted record, an error record and a missing companion's, each behind a line end.
+    constexpr std::size_t LE_PLUS = 2 * (2 + 256);
+    for (ligneVSE ajouts::*fichier : {&ajouts::emis, &ajouts::erre}) {
+        ajouts a;
+        EXPECT_FALSE(a.pleins());
+        ligneVSE& lg = a.*fichier;
+        for (int verdicts = 0; !a.pleins(); ++verdicts) {
+            ASSERT_LT(lg.longueur + LE_PLUS, sizeof lg.tampon) << verdicts;
+            lg.blancs(LE_PLUS);
+        }
+        EXPECT_GT(lg.longueur, sizeof lg.tampon / 2);
     }
 }
 

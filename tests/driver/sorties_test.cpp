@@ -80,6 +80,8 @@ TEST_F(Sorties, ChaqueAjoutVaDansSonFichier) {
     ecrireAjouts(a);  // nothing
     a.emis.texte("\nun record");
     ecrireAjouts(a);
+    EXPECT_EQ(a.emis.longueur, 0U);
+    ecrireAjouts(a);  // not twice
     ajouts b;
     b.erre.texte("\nune erreur\n");
     b.erre.octets("\0", 1);
