@@ -108,12 +108,35 @@ int reglesPartenaire(lot& l, int compte) {
     return compte;
 }
 
+/** A section of the record: its letter, its table, its slots. */
+struct section {
+    const char* lettre;
+    const parcours& p;
+    valeurVSE* slots;
+};
+const section SECTION_ENTETE = {"E", pEntete, valEnteteVSE};
+const section SECTION_FIN = {"F", pFin, valFinVSE};
+
+// A witness sees every row; without one only those are come to that have
+// something to say.
+void couper(const lot& l, const section& s) {
+    if (l.vu != nullptr)
+        getvseChamps(s.p.lignes, s.p.nombre, xdebug, s.slots, l.vu);
+    else
+        couperChamps(s.p, s.slots);
+}
+int verifier(const lot& l, const section& s, int compte, const char* genre) {
+    if (l.vu != nullptr) return verifChamps(l.vu, compte, s.p.lignes, s.p.nombre, s.slots, genre, s.lettre);
+    return suivreChamps(s.p, compte, s.slots, genre);
+}
+
 /** Body, partner and footer rules of a record whose type is known. */
 int reglesCorpsEtFin(lot& l, const sAiguillage& ligne, int compte) {
-    getvseChamps(ligne.tabVerif, *ligne.pLenTabVerif, xdebug, valCorpsVSE, l.vu);
-    compte = verifChamps(l.vu, compte, ligne.tabVerif, *ligne.pLenTabVerif, valCorpsVSE, entete(E5), "C");
+    const section corpsDuType = {"C", *ligne.pParcours, valCorpsVSE};
+    couper(l, corpsDuType);
+    compte = verifier(l, corpsDuType, compte, entete(E5));
     compte = reglesPartenaire(l, compte);
-    if (compte < MAX_ERREURS) compte = verifChamps(l.vu, compte, tFin, lFin, valFinVSE, nullptr, "F");
+    if (compte < MAX_ERREURS) compte = verifier(l, SECTION_FIN, compte, nullptr);
     return compte;
 }
 
@@ -199,7 +222,7 @@ void traiterMessage(lot& l, verdict& v) {
     v.itAiguil = ERR_AIGUILLAGE;
     nbErreur = reglesAdmission(l, 0);
     if (nbErreur < MAX_ERREURS) {
-        nbErreur = verifChamps(l.vu, nbErreur, tEntete, lEntete, valEnteteVSE, nullptr, "E");
+        nbErreur = verifier(l, SECTION_ENTETE, nbErreur, nullptr);
         // A record that is full of errors by now is treated as of unknown type.
         if (nbErreur < MAX_ERREURS) v.itAiguil = aiguiller(entete(E6));
     }
@@ -220,8 +243,8 @@ void traitement(lot& l, verdict& v) {
     codCaract = l.ligne.codCaract;
     if (l.vu != nullptr) dire(l.vu, {.quoi = VU_RECORD});
     std::memset(codeErreur, 0, MAX_ERREURS * sizeof codeErreur[0]);
-    getvseChamps(tEntete, lEntete, xdebug, valEnteteVSE, l.vu);
-    getvseChamps(tFin, lFin, xdebug, valFinVSE, l.vu);
+    couper(l, SECTION_ENTETE);
+    couper(l, SECTION_FIN);
     if (l.nombreDeVSE == 1)
         traiterFICH(l, v);
     else

@@ -13,6 +13,7 @@
 #include "checks/listes.h"
 #include "checks/valautorise.h"
 #include "messages/aiguillage.h"
+#include "rules/parcours.h"
 #include "rules/preuve.h"
 #include "vocabulaire/regle.h"
 #include "vocabulaire/store.h"
@@ -72,6 +73,7 @@ constexpr sCorps tAbat[] = {
     {C12,     138,  138,   0,   1,   0,   1,   0, fVerif_INDIC_ABAT,           &FR,        aucune,      139},
 };
 constexpr int lAbat = static_cast<int>(std::size(tAbat));
+const parcours pAbat(tAbat);
 // clang-format on
 static_assert(lignesJustes<examiner(tAbat, CORPS)>());
 

@@ -9,6 +9,7 @@
 #include "checks/listes.h"
 #include "checks/valautorise.h"
 #include "messages/aiguillage.h"
+#include "rules/parcours.h"
 #include "rules/preuve.h"
 #include "vocabulaire/regle.h"
 #include "vocabulaire/store.h"
@@ -32,6 +33,7 @@ constexpr sCorps tActi[] = {
     {C8,       97,  230,   1,   1,   1,   1,   1, nullptr,        &sansListe,   aucune,        0},
 };
 constexpr int lActi = static_cast<int>(std::size(tActi));
+const parcours pActi(tActi);
 // clang-format on
 static_assert(lignesJustes<examiner(tActi, CORPS)>());
 

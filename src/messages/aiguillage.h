@@ -8,6 +8,7 @@
 
 #include <iterator>
 
+#include "rules/parcours.h"
 #include "vocabulaire/pack.h"
 #include "vocabulaire/regle.h"
 
@@ -25,77 +26,79 @@ enum codeVSE : unsigned {
 
 /** One routing row. */
 struct sAiguillage {
-    const char* nomVSE;       // message type, header E6
-    const sCorps* tabVerif;   // its rule table; null in the last row
-    const int* pLenTabVerif;  // the table's row count; null in the last row
-    codeVSE code;             // `CODE_INCONNU` in the last row
-    numCorpsVSE champErrC7;   // country of the holding concerned, or `CINC`
-    numCorpsVSE champErrC8;   // its twelve-character number, or `CINC`
+    const char* nomVSE;         // message type, header E6
+    const sCorps* tabVerif;     // its rule table; null in the last row
+    const int* pLenTabVerif;    // the table's row count; null in the last row
+    const parcours* pParcours;  // the ways through the table; null in the last row
+    codeVSE code;               // `CODE_INCONNU` in the last row
+    numCorpsVSE champErrC7;     // country of the holding concerned, or `CINC`
+    numCorpsVSE champErrC8;     // its twelve-character number, or `CINC`
 };
 
-// The rule tables and their row counts; each stands in the source of its type.
+// The rule tables, their row counts and the ways through them; they stand in
+// the source of their type.
 // clang-format off
-extern const sCorps tAbat[]; extern const int lAbat;  // slaughter notice
-extern const sCorps tActi[]; extern const int lActi;  // activity of a holding
-extern const sCorps tAsso[]; extern const int lAsso;  // identifier of a holding
-extern const sCorps tDete[]; extern const int lDete;  // keeper
-extern const sCorps tDeti[]; extern const int lDeti;  // activity of a keeper
-extern const sCorps tEcbo[]; extern const int lEcbo;  // bovine data
-extern const sCorps tEcha[]; extern const int lEcha;  // intra-community exchange
-extern const sCorps tEget[]; extern const int lEget;  // production site
-extern const sCorps tEntr[]; extern const int lEntr;  // entry on a holding
-extern const sCorps tErre[]; extern const int lErre;  // error return
-extern const sCorps tErti[]; extern const int lErti;  // production of a site
-extern const sCorps tExp1[]; extern const int lExp1;  // export, holding
-extern const sCorps tExp2[]; extern const int lExp2;  // export, keeper
-extern const sCorps tFich[]; extern const int lFich;  // file record
-extern const sCorps tGroc[]; extern const int lGroc;  // tag order, ovine and caprine
-extern const sCorps tImoc[]; extern const int lImoc;  // ovine and caprine mark
-extern const sCorps tImpo[]; extern const int lImpo;  // import
-extern const sCorps tInfo[]; extern const int lInfo;  // request for an animal's data
-extern const sCorps tJalo[]; extern const int lJalo;  // marking request
-extern const sCorps tNais[]; extern const int lNais;  // birth
-extern const sCorps tNuma[]; extern const int lNuma;  // range of animal numbers
-extern const sCorps tNvmn[]; extern const int lNvmn;  // birth, short form
-extern const sCorps tPass[]; extern const int lPass;  // passport
-extern const sCorps tPico[]; extern const int lPico;  // range of tag numbers
-extern const sCorps tRaco[]; extern const int lRaco;  // census
-extern const sCorps tRata[]; extern const int lRata;  // site and holding
-extern const sCorps tRebo[]; extern const int lRebo;  // tag replacement
-extern const sCorps tSort[]; extern const int lSort;  // exit from a holding
+extern const sCorps tAbat[]; extern const int lAbat; extern const parcours pAbat;  // slaughter notice
+extern const sCorps tActi[]; extern const int lActi; extern const parcours pActi;  // activity of a holding
+extern const sCorps tAsso[]; extern const int lAsso; extern const parcours pAsso;  // identifier of a holding
+extern const sCorps tDete[]; extern const int lDete; extern const parcours pDete;  // keeper
+extern const sCorps tDeti[]; extern const int lDeti; extern const parcours pDeti;  // activity of a keeper
+extern const sCorps tEcbo[]; extern const int lEcbo; extern const parcours pEcbo;  // bovine data
+extern const sCorps tEcha[]; extern const int lEcha; extern const parcours pEcha;  // intra-community exchange
+extern const sCorps tEget[]; extern const int lEget; extern const parcours pEget;  // production site
+extern const sCorps tEntr[]; extern const int lEntr; extern const parcours pEntr;  // entry on a holding
+extern const sCorps tErre[]; extern const int lErre; extern const parcours pErre;  // error return
+extern const sCorps tErti[]; extern const int lErti; extern const parcours pErti;  // production of a site
+extern const sCorps tExp1[]; extern const int lExp1; extern const parcours pExp1;  // export, holding
+extern const sCorps tExp2[]; extern const int lExp2; extern const parcours pExp2;  // export, keeper
+extern const sCorps tFich[]; extern const int lFich;                              // file record
+extern const sCorps tGroc[]; extern const int lGroc; extern const parcours pGroc;  // tag order, ovine and caprine
+extern const sCorps tImoc[]; extern const int lImoc; extern const parcours pImoc;  // ovine and caprine mark
+extern const sCorps tImpo[]; extern const int lImpo; extern const parcours pImpo;  // import
+extern const sCorps tInfo[]; extern const int lInfo; extern const parcours pInfo;  // request for an animal's data
+extern const sCorps tJalo[]; extern const int lJalo; extern const parcours pJalo;  // marking request
+extern const sCorps tNais[]; extern const int lNais; extern const parcours pNais;  // birth
+extern const sCorps tNuma[]; extern const int lNuma; extern const parcours pNuma;  // range of animal numbers
+extern const sCorps tNvmn[]; extern const int lNvmn; extern const parcours pNvmn;  // birth, short form
+extern const sCorps tPass[]; extern const int lPass; extern const parcours pPass;  // passport
+extern const sCorps tPico[]; extern const int lPico; extern const parcours pPico;  // range of tag numbers
+extern const sCorps tRaco[]; extern const int lRaco; extern const parcours pRaco;  // census
+extern const sCorps tRata[]; extern const int lRata; extern const parcours pRata;  // site and holding
+extern const sCorps tRebo[]; extern const int lRebo; extern const parcours pRebo;  // tag replacement
+extern const sCorps tSort[]; extern const int lSort; extern const parcours pSort;  // exit from a holding
 // clang-format on
 
 // clang-format off
 inline constexpr sAiguillage tAiguillage[] = {
-    //type   table    rows     code          country number
-    {"ABAT", tAbat,   &lAbat,  ABAT,         CINC,   CINC},
-    {"ACTI", tActi,   &lActi,  ACTI,         C1,     C2},
-    {"ASSO", tAsso,   &lAsso,  ASSO,         C1,     C2},
-    {"DETE", tDete,   &lDete,  DETE,         C1,     C2},
-    {"DETI", tDeti,   &lDeti,  DETI,         C1,     C2},
-    {"ECBO", tEcbo,   &lEcbo,  ECBO,         CINC,   CINC},
-    {"ECHA", tEcha,   &lEcha,  ECHA,         C18,    C19},
-    {"EGET", tEget,   &lEget,  EGET,         CINC,   CINC},
-    {"ENTR", tEntr,   &lEntr,  ENTR,         C6,     C7},
-    {"ERRE", tErre,   &lErre,  ERRE,         CINC,   CINC},
-    {"ERTI", tErti,   &lErti,  ERTI,         CINC,   CINC},
-    {"EXP1", tExp1,   &lExp1,  EXP1,         C1,     C2},
-    {"EXP2", tExp2,   &lExp2,  EXP2,         C1,     C2},
-    {"GROC", tGroc,   &lGroc,  GROC,         C4,     C5},
-    {"IMOC", tImoc,   &lImoc,  IMOC,         C4,     C5},
-    {"IMPO", tImpo,   &lImpo,  IMPO,         C18,    C19},
-    {"INFO", tInfo,   &lInfo,  INFO,         CINC,   CINC},
-    {"JALO", tJalo,   &lJalo,  JALO,         C4,     C5},
-    {"NAIS", tNais,   &lNais,  NAIS,         C16,    C17},
-    {"NUMA", tNuma,   &lNuma,  NUMA,         C1,     C2},
-    {"NVMN", tNvmn,   &lNvmn,  NVMN,         C16,    C17},
-    {"PASS", tPass,   &lPass,  PASS,         C4,     C5},
-    {"PICO", tPico,   &lPico,  PICO,         C1,     C2},
-    {"RACO", tRaco,   &lRaco,  RACO,         C1,     C2},
-    {"RATA", tRata,   &lRata,  RATA,         CINC,   CINC},
-    {"REBO", tRebo,   &lRebo,  REBO,         C5,     C6},
-    {"SORT", tSort,   &lSort,  SORT,         C6,     C7},
-    {"ZZZZ", nullptr, nullptr, CODE_INCONNU, CINC,   CINC},
+    //type   table    rows     ways     code          country number
+    {"ABAT", tAbat,   &lAbat,   &pAbat,  ABAT,         CINC,   CINC},
+    {"ACTI", tActi,   &lActi,   &pActi,  ACTI,         C1,     C2},
+    {"ASSO", tAsso,   &lAsso,   &pAsso,  ASSO,         C1,     C2},
+    {"DETE", tDete,   &lDete,   &pDete,  DETE,         C1,     C2},
+    {"DETI", tDeti,   &lDeti,   &pDeti,  DETI,         C1,     C2},
+    {"ECBO", tEcbo,   &lEcbo,   &pEcbo,  ECBO,         CINC,   CINC},
+    {"ECHA", tEcha,   &lEcha,   &pEcha,  ECHA,         C18,    C19},
+    {"EGET", tEget,   &lEget,   &pEget,  EGET,         CINC,   CINC},
+    {"ENTR", tEntr,   &lEntr,   &pEntr,  ENTR,         C6,     C7},
+    {"ERRE", tErre,   &lErre,   &pErre,  ERRE,         CINC,   CINC},
+    {"ERTI", tErti,   &lErti,   &pErti,  ERTI,         CINC,   CINC},
+    {"EXP1", tExp1,   &lExp1,   &pExp1,  EXP1,         C1,     C2},
+    {"EXP2", tExp2,   &lExp2,   &pExp2,  EXP2,         C1,     C2},
+    {"GROC", tGroc,   &lGroc,   &pGroc,  GROC,         C4,     C5},
+    {"IMOC", tImoc,   &lImoc,   &pImoc,  IMOC,         C4,     C5},
+    {"IMPO", tImpo,   &lImpo,   &pImpo,  IMPO,         C18,    C19},
+    {"INFO", tInfo,   &lInfo,   &pInfo,  INFO,         CINC,   CINC},
+    {"JALO", tJalo,   &lJalo,   &pJalo,  JALO,         C4,     C5},
+    {"NAIS", tNais,   &lNais,   &pNais,  NAIS,         C16,    C17},
+    {"NUMA", tNuma,   &lNuma,   &pNuma,  NUMA,         C1,     C2},
+    {"NVMN", tNvmn,   &lNvmn,   &pNvmn,  NVMN,         C16,    C17},
+    {"PASS", tPass,   &lPass,   &pPass,  PASS,         C4,     C5},
+    {"PICO", tPico,   &lPico,   &pPico,  PICO,         C1,     C2},
+    {"RACO", tRaco,   &lRaco,   &pRaco,  RACO,         C1,     C2},
+    {"RATA", tRata,   &lRata,   &pRata,  RATA,         CINC,   CINC},
+    {"REBO", tRebo,   &lRebo,   &pRebo,  REBO,         C5,     C6},
+    {"SORT", tSort,   &lSort,   &pSort,  SORT,         C6,     C7},
+    {"ZZZZ", nullptr, nullptr, nullptr, CODE_INCONNU, CINC,   CINC},
 };
 // clang-format on
 inline constexpr int LEN_AIGUILLAGE = static_cast<int>(std::size(tAiguillage));

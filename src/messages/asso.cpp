@@ -13,6 +13,7 @@
 #include "checks/listes.h"
 #include "checks/valautorise.h"
 #include "messages/aiguillage.h"
+#include "rules/parcours.h"
 #include "rules/preuve.h"
 #include "vocabulaire/regle.h"
 #include "vocabulaire/store.h"
@@ -155,6 +156,7 @@ constexpr sCorps tAsso[] = {
     {C9,      121,  230,   1,   1,   1,   1,   1, nullptr,        &sansListe,   aucune,        0},
 };
 constexpr int lAsso = static_cast<int>(std::size(tAsso));
+const parcours pAsso(tAsso);
 // clang-format on
 
 /** What its own checks do with the list of their row. */

@@ -11,6 +11,7 @@
 #include "checks/reference.h"
 #include "checks/valautorise.h"
 #include "messages/aiguillage.h"
+#include "rules/parcours.h"
 #include "rules/preuve.h"
 #include "vocabulaire/regle.h"
 #include "vocabulaire/store.h"
@@ -46,6 +47,7 @@ constexpr sCorps tDete[] = {
     {C13,     225,  230,   1,   1,   1,   1,   1, nullptr,             &sansListe,    aucune,        0},
 };
 constexpr int lDete = static_cast<int>(std::size(tDete));
+const parcours pDete(tDete);
 // clang-format on
 
 /** What its own checks do with the list of their row. */

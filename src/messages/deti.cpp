@@ -9,6 +9,7 @@
 #include "checks/listes.h"
 #include "checks/valautorise.h"
 #include "messages/aiguillage.h"
+#include "rules/parcours.h"
 #include "rules/preuve.h"
 #include "vocabulaire/regle.h"
 #include "vocabulaire/store.h"
@@ -30,6 +31,7 @@ constexpr sCorps tDeti[] = {
     {C7,       96,  230,   1,   1,   1,   1,   1, nullptr,        &sansListe,   aucune,        0},
 };
 constexpr int lDeti = static_cast<int>(std::size(tDeti));
+const parcours pDeti(tDeti);
 // clang-format on
 static_assert(lignesJustes<examiner(tDeti, CORPS)>());
 

@@ -8,6 +8,7 @@
 #include "checks/listes.h"
 #include "checks/valautorise.h"
 #include "messages/aiguillage.h"
+#include "rules/parcours.h"
 #include "rules/preuve.h"
 #include "vocabulaire/regle.h"
 #include "vocabulaire/store.h"
@@ -65,6 +66,7 @@ constexpr sCorps tEcbo[] = {
     {C16,     139,  230,   1,   1,   1,   1,   1, nullptr,                &sansListe,   aucune,        0},
 };
 constexpr int lEcbo = static_cast<int>(std::size(tEcbo));
+const parcours pEcbo(tEcbo);
 // clang-format on
 
 /** What its own checks do with the list of their row. */

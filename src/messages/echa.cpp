@@ -10,6 +10,7 @@
 #include "checks/reference.h"
 #include "checks/valautorise.h"
 #include "messages/aiguillage.h"
+#include "rules/parcours.h"
 #include "rules/preuve.h"
 #include "vocabulaire/regle.h"
 #include "vocabulaire/store.h"
@@ -57,6 +58,7 @@ constexpr sCorps tEcha[] = {
     {C24,     185,  230,   1,   1,   1,   1,   1, nullptr,            &sansListe,    aucune,        0},
 };
 constexpr int lEcha = static_cast<int>(std::size(tEcha));
+const parcours pEcha(tEcha);
 // clang-format on
 static_assert(lignesJustes<examiner(tEcha, CORPS)>());
 

@@ -9,6 +9,7 @@
 #include "checks/listes.h"
 #include "checks/valautorise.h"
 #include "messages/aiguillage.h"
+#include "rules/parcours.h"
 #include "rules/preuve.h"
 #include "vocabulaire/regle.h"
 #include "vocabulaire/store.h"
@@ -36,6 +37,7 @@ constexpr sCorps tEget[] = {
     {C9,      175,  230,   1,   1,   1,   1,   1, nullptr,        &sansListe,    aucune,        0},
 };
 constexpr int lEget = static_cast<int>(std::size(tEget));
+const parcours pEget(tEget);
 // clang-format on
 static_assert(lignesJustes<examiner(tEget, CORPS)>());
 

@@ -12,6 +12,7 @@
 #include "checks/listes.h"
 #include "checks/valautorise.h"
 #include "messages/aiguillage.h"
+#include "rules/parcours.h"
 #include "rules/preuve.h"
 #include "vocabulaire/regle.h"
 #include "vocabulaire/store.h"
@@ -157,6 +158,7 @@ constexpr sCorps tErre[] = {
     {C37,       0,    0,   0,   1,   0,   1,   0, vErre_C37_2,   &sansListe, fichEntete(E3),  135},
 };
 constexpr int lErre = static_cast<int>(std::size(tErre));
+const parcours pErre(tErre);
 // clang-format on
 static_assert(lignesJustes<examiner(tErre, CORPS)>());
 

@@ -10,6 +10,7 @@
 #include "checks/listes.h"
 #include "checks/valautorise.h"
 #include "messages/aiguillage.h"
+#include "rules/parcours.h"
 #include "rules/preuve.h"
 #include "vocabulaire/regle.h"
 #include "vocabulaire/store.h"
@@ -50,6 +51,7 @@ constexpr sCorps tErti[] = {
     {C11,     113,  230,   1,   1,   1,   1,   1, nullptr,        &sansListe,   aucune,        0},
 };
 constexpr int lErti = static_cast<int>(std::size(tErti));
+const parcours pErti(tErti);
 // clang-format on
 
 /** What its own checks do with the list of their row. */

@@ -10,6 +10,7 @@
 #include "checks/reference.h"
 #include "checks/valautorise.h"
 #include "messages/aiguillage.h"
+#include "rules/parcours.h"
 #include "rules/preuve.h"
 #include "vocabulaire/regle.h"
 #include "vocabulaire/store.h"
@@ -41,6 +42,7 @@ constexpr sCorps tExp1[] = {
     {C12,     224,  230,   1,   1,   1,   1,   1, nullptr,        &sansListe,    aucune,        0},
 };
 constexpr int lExp1 = static_cast<int>(std::size(tExp1));
+const parcours pExp1(tExp1);
 // clang-format on
 
 /** What its own checks do with the list of their row. */

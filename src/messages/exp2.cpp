@@ -10,6 +10,7 @@
 #include "checks/listes.h"
 #include "checks/valautorise.h"
 #include "messages/aiguillage.h"
+#include "rules/parcours.h"
 #include "rules/preuve.h"
 #include "vocabulaire/regle.h"
 #include "vocabulaire/store.h"
@@ -44,6 +45,7 @@ constexpr sCorps tExp2[] = {
     {C17,     157,  230,   1,   1,   1,   1,   1, nullptr,        &sansListe,   aucune,        0},
 };
 constexpr int lExp2 = static_cast<int>(std::size(tExp2));
+const parcours pExp2(tExp2);
 // clang-format on
 static_assert(lignesJustes<examiner(tExp2, CORPS)>());
 

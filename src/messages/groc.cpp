@@ -10,6 +10,7 @@
 #include "checks/listes.h"
 #include "checks/valautorise.h"
 #include "messages/aiguillage.h"
+#include "rules/parcours.h"
 #include "rules/preuve.h"
 #include "vocabulaire/regle.h"
 #include "vocabulaire/store.h"
@@ -63,6 +64,7 @@ constexpr sCorps tGroc[] = {
     {C13,     128,  230,   1,   1,   1,   1,   1, nullptr,               &sansListe,   aucune,        0},
 };
 constexpr int lGroc = static_cast<int>(std::size(tGroc));
+const parcours pGroc(tGroc);
 // clang-format on
 static_assert(lignesJustes<examiner(tGroc, CORPS)>());
 

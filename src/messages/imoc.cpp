@@ -9,6 +9,7 @@
 #include "checks/listes.h"
 #include "checks/valautorise.h"
 #include "messages/aiguillage.h"
+#include "rules/parcours.h"
 #include "rules/preuve.h"
 #include "vocabulaire/regle.h"
 #include "vocabulaire/store.h"
@@ -33,6 +34,7 @@ constexpr sCorps tImoc[] = {
     {C8,      102,  230,   1,   1,   1,   1,   1, nullptr,           &sansListe,   aucune,        0},
 };
 constexpr int lImoc = static_cast<int>(std::size(tImoc));
+const parcours pImoc(tImoc);
 // clang-format on
 static_assert(lignesJustes<examiner(tImoc, CORPS)>());
 

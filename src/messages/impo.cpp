@@ -11,6 +11,7 @@
 #include "checks/reference.h"
 #include "checks/valautorise.h"
 #include "messages/aiguillage.h"
+#include "rules/parcours.h"
 #include "rules/preuve.h"
 #include "vocabulaire/regle.h"
 #include "vocabulaire/store.h"
@@ -86,6 +87,7 @@ constexpr sCorps tImpo[] = {
     {C25,     191,  230,   1,   1,   1,   1,   1, nullptr,            &sansListe,      aucune,        0},
 };
 constexpr int lImpo = static_cast<int>(std::size(tImpo));
+const parcours pImpo(tImpo);
 // clang-format on
 
 /** What its own checks do with the list of their row. */

@@ -8,6 +8,7 @@
 #include "checks/listes.h"
 #include "checks/valautorise.h"
 #include "messages/aiguillage.h"
+#include "rules/parcours.h"
 #include "rules/preuve.h"
 #include "vocabulaire/regle.h"
 #include "vocabulaire/store.h"
@@ -26,6 +27,7 @@ constexpr sCorps tInfo[] = {
     {C4,      120,  230,   1,   1,   1,   1,   1, nullptr,                &sansListe,   aucune,        0},
 };
 constexpr int lInfo = static_cast<int>(std::size(tInfo));
+const parcours pInfo(tInfo);
 // clang-format on
 static_assert(lignesJustes<examiner(tInfo, CORPS)>());
 

@@ -9,6 +9,7 @@
 #include "checks/listes.h"
 #include "checks/valautorise.h"
 #include "messages/aiguillage.h"
+#include "rules/parcours.h"
 #include "rules/preuve.h"
 #include "vocabulaire/regle.h"
 #include "vocabulaire/store.h"
@@ -37,6 +38,7 @@ constexpr sCorps tJalo[] = {
     {C11,     223,  230,   1,   1,   1,   1,   1, nullptr,                &sansListe,      aucune,        0},
 };
 constexpr int lJalo = static_cast<int>(std::size(tJalo));
+const parcours pJalo(tJalo);
 // clang-format on
 static_assert(lignesJustes<examiner(tJalo, CORPS)>());
 

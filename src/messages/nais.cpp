@@ -12,6 +12,7 @@
 #include "checks/reference.h"
 #include "checks/valautorise.h"
 #include "messages/aiguillage.h"
+#include "rules/parcours.h"
 #include "rules/preuve.h"
 #include "vocabulaire/regle.h"
 #include "vocabulaire/store.h"
@@ -114,6 +115,7 @@ constexpr sCorps tNais[] = {
     {C27,     169,  230,   1,   1,   1,   1,   1, nullptr,                &sansListe,   aucune,        0},
 };
 constexpr int lNais = static_cast<int>(std::size(tNais));
+const parcours pNais(tNais);
 // clang-format on
 
 /** What its own checks do with the list of their row. */

@@ -11,6 +11,7 @@
 #include "checks/reference.h"
 #include "checks/valautorise.h"
 #include "messages/aiguillage.h"
+#include "rules/parcours.h"
 #include "rules/preuve.h"
 #include "vocabulaire/regle.h"
 #include "vocabulaire/store.h"
@@ -64,6 +65,7 @@ constexpr sCorps tNuma[] = {
     {C11,     124,  230,   1,   1,   1,   1,   1, nullptr,            &sansListe,   aucune,        0},
 };
 constexpr int lNuma = static_cast<int>(std::size(tNuma));
+const parcours pNuma(tNuma);
 // clang-format on
 static_assert(lignesJustes<examiner(tNuma, CORPS)>());
 

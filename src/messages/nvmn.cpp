@@ -11,6 +11,7 @@
 #include "checks/reference.h"
 #include "checks/valautorise.h"
 #include "messages/aiguillage.h"
+#include "rules/parcours.h"
 #include "rules/preuve.h"
 #include "vocabulaire/regle.h"
 #include "vocabulaire/store.h"
@@ -58,6 +59,7 @@ constexpr sCorps tNvmn[] = {
     {C19,     159,  230,   1,   1,   1,   1,   1, nullptr,                &sansListe,   aucune,        0},
 };
 constexpr int lNvmn = static_cast<int>(std::size(tNvmn));
+const parcours pNvmn(tNvmn);
 // clang-format on
 
 /** What its own checks do with the list of their row. */

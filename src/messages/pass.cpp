@@ -10,6 +10,7 @@
 #include "checks/listes.h"
 #include "checks/valautorise.h"
 #include "messages/aiguillage.h"
+#include "rules/parcours.h"
 #include "rules/preuve.h"
 #include "vocabulaire/regle.h"
 #include "vocabulaire/store.h"
@@ -57,6 +58,7 @@ constexpr sCorps tPass[] = {
     {C12,     120,  230,   1,   1,   1,   1,   1, nullptr,                &sansListe,   aucune,        0},
 };
 constexpr int lPass = static_cast<int>(std::size(tPass));
+const parcours pPass(tPass);
 // clang-format on
 static_assert(lignesJustes<examiner(tPass, CORPS)>());
 

@@ -10,6 +10,7 @@
 #include "checks/listes.h"
 #include "checks/valautorise.h"
 #include "messages/aiguillage.h"
+#include "rules/parcours.h"
 #include "rules/preuve.h"
 #include "vocabulaire/regle.h"
 #include "vocabulaire/store.h"
@@ -61,6 +62,7 @@ constexpr sCorps tPico[] = {
     {C12,     120,  230,   1,   1,   1,   1,   1, nullptr,              &sansListe,   aucune,        0},
 };
 constexpr int lPico = static_cast<int>(std::size(tPico));
+const parcours pPico(tPico);
 // clang-format on
 static_assert(lignesJustes<examiner(tPico, CORPS)>());
 

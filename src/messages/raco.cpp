@@ -10,6 +10,7 @@
 #include "checks/listes.h"
 #include "checks/valautorise.h"
 #include "messages/aiguillage.h"
+#include "rules/parcours.h"
 #include "rules/preuve.h"
 #include "vocabulaire/regle.h"
 #include "vocabulaire/store.h"
@@ -37,6 +38,7 @@ constexpr sCorps tRaco[] = {
     {C8,      103,  230,   1,   1,   1,   1,   1, nullptr,           &sansListe,   aucune,        0},
 };
 constexpr int lRaco = static_cast<int>(std::size(tRaco));
+const parcours pRaco(tRaco);
 // clang-format on
 static_assert(lignesJustes<examiner(tRaco, CORPS)>());
 

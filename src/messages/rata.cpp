@@ -10,6 +10,7 @@
 #include "checks/listes.h"
 #include "checks/valautorise.h"
 #include "messages/aiguillage.h"
+#include "rules/parcours.h"
 #include "rules/preuve.h"
 #include "vocabulaire/regle.h"
 #include "vocabulaire/store.h"
@@ -38,6 +39,7 @@ constexpr sCorps tRata[] = {
     {C11,     124,  230,   1,   1,   1,   1,   1, nullptr,        &sansListe,   aucune,        0},
 };
 constexpr int lRata = static_cast<int>(std::size(tRata));
+const parcours pRata(tRata);
 // clang-format on
 static_assert(lignesJustes<examiner(tRata, CORPS)>());
 

@@ -12,6 +12,7 @@
 #include "checks/reference.h"
 #include "checks/valautorise.h"
 #include "messages/aiguillage.h"
+#include "rules/parcours.h"
 #include "rules/preuve.h"
 #include "vocabulaire/regle.h"
 #include "vocabulaire/store.h"
@@ -45,6 +46,7 @@ constexpr sCorps tRebo[] = {
     {C26,     229,  230,   1,   1,   1,   1,   1, nullptr,                &sansListe,   aucune,        0},
 };
 constexpr int lRebo = static_cast<int>(std::size(tRebo));
+const parcours pRebo(tRebo);
 // clang-format on
 static_assert(lignesJustes<examiner(tRebo, CORPS)>());
 

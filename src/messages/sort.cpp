@@ -11,6 +11,7 @@
 #include "checks/valautorise.h"
 #include "messages/aiguillage.h"
 #include "messages/mouvement.h"
+#include "rules/parcours.h"
 #include "rules/preuve.h"
 #include "vocabulaire/regle.h"
 #include "vocabulaire/store.h"
@@ -61,6 +62,7 @@ constexpr sCorps tSort[] = {
     {C13,     192,  230,   1,   1,   1,   1,   1, nullptr,                &sansListe,   aucune,        0},
 };
 constexpr int lSort = static_cast<int>(std::size(tSort));
+const parcours pSort(tSort);
 // clang-format on
 
 /** What its own checks do with the list of their row. */

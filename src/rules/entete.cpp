@@ -6,6 +6,7 @@
 #include "checks/lecture.h"
 #include "checks/listes.h"
 #include "checks/valautorise.h"
+#include "rules/parcours.h"
 #include "rules/preuve.h"
 #include "vocabulaire/regle.h"
 #include "vocabulaire/store.h"
@@ -102,6 +103,7 @@ constexpr sCorps tEntete[] = {
     {E13,    62,   62,  1,  1,  1,  1,  1, enteteE13,    &NOUU,       entete(E6),   98},
 };
 constexpr int lEntete = static_cast<int>(std::size(tEntete));
+const parcours pEntete(tEntete);
 
 constexpr sCorps tFin[] = {
     //field first last CRE DEM INV EDI MOD check         list         dependency  error
@@ -113,6 +115,7 @@ constexpr sCorps tFin[] = {
     {F5,    256,  256,  1,  1,  1,  1,  1, fVerifValAut, &ET1,        aucune,       94},
 };
 constexpr int lFin = static_cast<int>(std::size(tFin));
+const parcours pFin(tFin);
 // clang-format on
 
 /** What its own checks do with the list of their row. */

@@ -8,6 +8,7 @@
 #ifndef QUILVANE_RULES_ENTETE_H
 #define QUILVANE_RULES_ENTETE_H
 
+#include "rules/parcours.h"
 #include "vocabulaire/regle.h"
 
 namespace quilvane {
@@ -15,10 +16,12 @@ namespace quilvane {
 /** Header: 13 fields in columns 1 to 62, cut into `valEnteteVSE`. */
 extern const sCorps tEntete[];
 extern const int lEntete;
+extern const parcours pEntete;
 
 /** Footer: 5 fields in columns 231 to 256, cut into `valFinVSE`. */
 extern const sCorps tFin[];
 extern const int lFin;
+extern const parcours pFin;
 
 /** Emitter of the FICH record (8): in `TEC`, or a national or ovine one by its
  *  first six or eight characters. Message records pass. Error 95. */

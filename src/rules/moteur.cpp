@@ -6,8 +6,8 @@
 
 #include <cstring>
 
-#include "checks/lecture.h"
 #include "rules/constat.h"
+#include "rules/parcours.h"
 
 namespace quilvane {
 
@@ -18,20 +18,17 @@ constexpr int ERR_CARACTERE = 106;  // byte outside 0x20..0x7E
 constexpr int ERR_TROP_LONG = 107;
 constexpr int ERR_TROP_COURT = 108;
 
-/** What a row asks for a transaction kind; other values are not allowed. */
-enum ePresence { A_VERIFIER = 0, IGNORE = 1, INTERDIT = -1 };
-
-/** The presence column of a transaction kind, null when no column is its own. */
-using colonne = int sCorps::*;
-colonne colonneDuGenre(const char* genre) {
+/** The presence column that a transaction kind is read by, `NB_GENRES` when
+ *  none is its own. */
+int genreDe(const char* genre) {
     switch (tValAutorise::cle(genre)) {
         case tValAutorise::cle("CRE"):
-        case tValAutorise::cle("ECQ"): return &sCorps::typeCRE;  // an error return is read as a creation
-        case tValAutorise::cle("DEM"): return &sCorps::typeDEM;
-        case tValAutorise::cle("INV"): return &sCorps::typeINV;
-        case tValAutorise::cle("EDI"): return &sCorps::typeEDI;
-        case tValAutorise::cle("MOD"): return &sCorps::typeMOD;
-        default: return nullptr;
+        case tValAutorise::cle("ECQ"): return GENRE_CRE;  // an error return is read as a creation
+        case tValAutorise::cle("DEM"): return GENRE_DEM;
+        case tValAutorise::cle("INV"): return GENRE_INV;
+        case tValAutorise::cle("EDI"): return GENRE_EDI;
+        case tValAutorise::cle("MOD"): return GENRE_MOD;
+        default: return NB_GENRES;
     }
 }
 
@@ -57,37 +54,57 @@ int erreursDeCadrage(const temoin* vu, int compte) {
     return compte;
 }
 
-/** The arguments of `verifChamps` that name the table and its slots. */
-struct tableAppliquee {
-    const sCorps* lignes;
-    int nombre;
-    valeurVSE* slots;
-    const char* genre;   // null: every row is checked
-    const char* lettre;  // names the section to the witness
-};
+/** Cuts a field of the record in `xdebug`, whose first column is `debut`, from 0. */
+inline void couper(char* valeur, int debut, int largeur) {
+    // Columns that a short record lacks are zeros: a field that reaches into them
+    // ends there, one that begins behind the record's end is empty, and all are
+    // cut in their full width. Few fields are wider than a step; what a step
+    // copies too much lies behind the terminator, inside `xdebug` and the slot.
+    constexpr int PAS = 16;
+    static_assert(LARGEUR_VSE % PAS == 0 && LARGEUR_VSE + PAS <= TAILLE_XDEBUG);
+    const char* const colonnes = xdebug + debut;
+    std::memcpy(valeur, colonnes, PAS);
+    for (int i = PAS; i < largeur; i += PAS)
+        std::memcpy(valeur + i, colonnes + i, PAS);
+    valeur[largeur] = '\0';
+}
 
-/** Walks the rows. Whether there is a witness is known when this is compiled,
- *  so that a run without one does not ask for it at each row. */
-template <bool observe>
-int appliquer(const tableAppliquee& t, int compte, const temoin* vu) {
-    if (!observe && compte >= MAX_ERREURS) return compte;
-    const colonne presence = t.genre != nullptr ? colonneDuGenre(t.genre) : nullptr;
-    valeurVSE* suivant = t.slots;  // slot of the next row with columns
+}  // namespace
+
+void getvseChamps(const sCorps* tCorps, int lCorps, const char* tampon, valeurVSE* tValVSE,
+                  const temoin* vu) {
+    if (tampon != xdebug) retenirVSE(tampon);
+    for (const sCorps* ligne = tCorps; ligne != tCorps + lCorps; ++ligne)
+        if (ligne->fin != 0) couper((tValVSE++)->valeur, ligne->debut - 1, ligne->fin - ligne->debut + 1);
+    if (vu != nullptr) annoncer(vu, VU_COUPE);
+}
+
+void couperChamps(const parcours& p, valeurVSE* tValVSE) {
+    for (const parcours::coupe* champ = p.coupes; champ != p.coupes + p.champs; ++champ)
+        couper((tValVSE++)->valeur, champ->debut, champ->largeur);
+}
+
+int verifChamps(const temoin* vu, int nbErreurPassee, const sCorps* pChamps, int lpChamps,
+                valeurVSE* valChampsVSE, const char* valE5, const char* premLettre) {
+    int compte = erreursDeCadrage(vu, nbErreurPassee);
+    const int genre = valE5 != nullptr ? genreDe(valE5) : NB_GENRES;
+    const valeurVSE* const premier = valChampsVSE;
+    valeurVSE* suivant = valChampsVSE;  // slot of the next row with columns
     char* valeur = nullptr;
 
-    for (const sCorps* ligne = t.lignes; ligne != t.lignes + t.nombre; ++ligne) {
+    for (const sCorps* ligne = pChamps; ligne != pChamps + lpChamps; ++ligne) {
         if (ligne->debut != 0) valeur = (suivant++)->valeur;
         const auto temoigner = [&](eVu quoi, int numero = 0, int code = 0) {
-            if constexpr (observe) {
-                const int emplacement = static_cast<int>(suivant - t.slots) - 1;
-                vu->voir(vu->qui, {quoi, ligne, t.lettre, emplacement, valeur, code, numero});
-            }
+            const int emplacement = static_cast<int>(suivant - premier) - 1;
+            dire(vu, {quoi, ligne, premLettre, emplacement, valeur, code, numero});
         };
         temoigner(VU_LIGNE);
-        if (observe && compte >= MAX_ERREURS) continue;
-        if (ligne->pfVerif == nullptr) continue;
+        // Only a witness wants to hear of the rows behind the tenth error.
+        if (compte >= MAX_ERREURS || ligne->pfVerif == nullptr) continue;
 
-        const int code = t.genre == nullptr ? A_VERIFIER : presence == nullptr ? INTERDIT : ligne->*presence;
+        const int code = valE5 == nullptr     ? A_VERIFIER
+                         : genre == NB_GENRES ? INTERDIT
+                                              : ligne->*PRESENCES[genre];
         if (code == IGNORE) {
             temoigner(VU_IGNOREE);
             continue;
@@ -102,41 +119,27 @@ int appliquer(const tableAppliquee& t, int compte, const temoin* vu) {
             temoigner(VU_INTERDITE, numero, code);
         }
         compte = ajouterErreur(compte, numero, ORIGINE_TABLE, ligne);
-        // Only a witness wants to hear of the rows behind the tenth error.
-        if (!observe && compte >= MAX_ERREURS) return compte;
     }
     return compte;
 }
 
-}  // namespace
+int suivreChamps(const parcours& p, int nbErreurPassee, valeurVSE* valChampsVSE, const char* valE5) {
+    const int genre = valE5 != nullptr ? genreDe(valE5) : parcours::SANS_GENRE;
+    if (valE5 != nullptr && genre == NB_GENRES)
+        return verifChamps(nullptr, nbErreurPassee, p.lignes, p.nombre, valChampsVSE, valE5, "");
 
-void getvseChamps(const sCorps* tCorps, int lCorps, const char* tampon, valeurVSE* tValVSE,
-                  const temoin* vu) {
-    if (tampon != xdebug) retenirVSE(tampon);
-    // Columns that a short record lacks are zeros: a field that reaches into them
-    // ends there, one that begins behind the record's end is empty, and all are
-    // cut in their full width. Few fields are wider than a step; what a step
-    // copies too much lies behind the terminator, inside `xdebug` and the slot.
-    constexpr int PAS = 16;
-    static_assert(LARGEUR_VSE % PAS == 0 && LARGEUR_VSE + PAS <= TAILLE_XDEBUG);
-    for (const sCorps* ligne = tCorps; ligne != tCorps + lCorps; ++ligne) {
-        if (ligne->fin == 0) continue;
-        char* const valeur = (tValVSE++)->valeur;
-        const char* const colonnes = xdebug + ligne->debut - 1;
-        const int largeur = ligne->fin - ligne->debut + 1;
-        std::memcpy(valeur, colonnes, PAS);
-        for (int i = PAS; i < largeur; i += PAS)
-            std::memcpy(valeur + i, colonnes + i, PAS);
-        valeur[largeur] = '\0';
+    int compte = nbErreurPassee;
+    if (codCaract != 0 || codLong != 0) compte = erreursDeCadrage(nullptr, compte);
+    if (compte >= MAX_ERREURS) return compte;
+    const parcours::etape* const fin = p.etapes[genre] + p.pas[genre];
+    for (const parcours::etape* etape = p.etapes[genre]; etape != fin; ++etape) {
+        const sCorps& ligne = p.lignes[etape->ligne];
+        char* const valeur = valChampsVSE[etape->emplacement].valeur;
+        if (!etape->interdit && ligne.pfVerif(ligne.dependance, valeur, *ligne.sverif)) continue;
+        compte = ajouterErreur(compte, etape->interdit ? ERR_GENRE : ligne.noErr, ORIGINE_TABLE, &ligne);
+        if (compte >= MAX_ERREURS) break;
     }
-    if (vu != nullptr) annoncer(vu, VU_COUPE);
-}
-
-int verifChamps(const temoin* vu, int nbErreurPassee, const sCorps* pChamps, int lpChamps,
-                valeurVSE* valChampsVSE, const char* valE5, const char* premLettre) {
-    const tableAppliquee t = {pChamps, lpChamps, valChampsVSE, valE5, premLettre};
-    const int compte = erreursDeCadrage(vu, nbErreurPassee);
-    return vu != nullptr ? appliquer<true>(t, compte, vu) : appliquer<false>(t, compte, vu);
+    return compte;
 }
 
 }  // namespace quilvane

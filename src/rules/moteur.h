@@ -4,6 +4,7 @@
 #ifndef QUILVANE_RULES_MOTEUR_H
 #define QUILVANE_RULES_MOTEUR_H
 
+#include "rules/parcours.h"
 #include "rules/temoin.h"
 #include "vocabulaire/regle.h"
 #include "vocabulaire/store.h"
@@ -31,6 +32,13 @@ void getvseChamps(const sCorps* tCorps, int lCorps, const char* tampon, valeurVS
  */
 int verifChamps(const temoin* vu, int nbErreurPassee, const sCorps* pChamps, int lpChamps,
                 valeurVSE* valChampsVSE, const char* valE5, const char* premLettre);
+
+/** `getvseChamps` of the record in `xdebug` without a witness, and faster. */
+void couperChamps(const parcours& p, valeurVSE* tValVSE);
+
+/** `verifChamps` without a witness, and faster: the same errors, by the same
+ *  calls in the same order. */
+int suivreChamps(const parcours& p, int nbErreurPassee, valeurVSE* valChampsVSE, const char* valE5);
 
 }  // namespace quilvane
 
