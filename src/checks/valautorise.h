@@ -12,8 +12,8 @@
 namespace quilvane {
 
 extern const indexListe indexTD, indexTDC, indexTP, indexTR, indexTDD, indexTRG, indexTRFNV, indexTCPNOCEE,
-    indexTCPNOECH, indexTEC, indexTCEE, indexTECH, indexTRSCRE, indexTRSMOD, indexTE6, indexTE6CRE, indexTE6INV,
-    indexTE6MOD;
+    indexTCPNOECH, indexTEC, indexTCEE, indexTECH, indexTRSCRE, indexTRSMOD, indexTE6, indexTE6CRE,
+    indexTE6INV, indexTE6MOD;
 
 // clang-format off
 
