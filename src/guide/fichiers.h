@@ -1,12 +1,12 @@
 /**
  * fichiers.h - the files that quilvane-guide reads and the one that it may
  * write. Inputs are opened for reading only and never waited for; the output
- * is made anew, or replaced when that was asked for.
+ * is written beside its name and gets it when it is whole: under that name there
+ * is what was there before, or all of the answer.
  */
 #ifndef QUILVANE_GUIDE_FICHIERS_H
 #define QUILVANE_GUIDE_FICHIERS_H
 
-#include <cstdio>
 #include <string>
 
 #include "controle/lecteur.h"
@@ -30,6 +30,7 @@ void effacer(const sProgres& p);
 struct sFichier {
     int descripteur = -1;
     sProgres* progres = nullptr;  // null: no bar
+    int cause = 0;                // `errno` of a read that failed
     lecteur lecture;
 };
 
@@ -42,15 +43,19 @@ std::string raisonDe(int cause, eLangue langue);
 
 /** Where an answer goes: standard output, or the file of -o. */
 struct sEcriture {
-    std::FILE* fp = nullptr;
-    bool faute = false;
+    int descripteur = -1;
+    std::string cible;       // the name that the file is to have
+    std::string provisoire;  // the one that it has until then; empty for standard output
+    std::string tampon;      // not yet written
+    int cause = 0;           // `errno` of the first write that failed
 };
 
 /** Opens it; false, told on standard error, when it cannot be made. */
 bool ouvrirSortie(sEcriture& e, const sDemandeLue& d);
 /** `sSortie::ecrire` of an `sEcriture`. */
 void ecrireDans(void* ou, std::string_view octets);
-/** Closes it; false, told on standard error, when not all was written. */
+/** Closes it and gives the file its name; false, told on standard error, when
+ *  not all was written, and then no file is left. */
 bool fermerSortie(sEcriture& e, const sDemandeLue& d);
 
 }  // namespace quilvane::guide

@@ -85,6 +85,8 @@ int retour(const sDemandeLue& d) {
     long long faux = 0;
     const sRetour r = lireErreurs(fichier.lecture, faux);
     fermer(fichier);
+    if (fichier.lecture.erreur)
+        return plaindre(T_ILLISIBLE, d.langue, {visible(d.arguments[0]), raisonDe(fichier.cause, d.langue)});
     if (faux != 0) return plaindre(T_PAS_ERREURS, d.langue, {visible(d.arguments[0]), std::to_string(faux)});
 
     const bool couleur = enCouleur(d);
@@ -104,6 +106,8 @@ int retour(const sDemandeLue& d) {
         sRapprochement x = {&r, &d, couleur, std::vector<bool>(r.erres.size()), "\n"};
         examiner(source.lecture, d.source, {.langue = d.langue}, {nullptr, voirRefus, &x});
         fermer(source);
+        if (source.lecture.erreur)
+            return plaindre(T_ILLISIBLE, d.langue, {visible(d.source), raisonDe(source.cause, d.langue)});
         t += x.texte;
         for (std::size_t k = 0; k < x.vus.size() && statut != STATUT_ARRET; ++k) {
             if (x.vus[k]) continue;
