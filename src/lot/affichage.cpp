@@ -37,10 +37,12 @@ int colonnesDuTerminal() {
     return ioctl(STDOUT_FILENO, TIOCGWINSZ, &w) == 0 && w.ws_col > 0 ? w.ws_col : COLONNES;
 }
 
-std::string decimal(double x) {
+std::string decimal(double x, eLangue langue) {
     char c[64];
     std::snprintf(c, sizeof c, "%.1f", x);
-    return c;
+    std::string r = c;
+    if (langue == FRANCAIS) std::replace(r.begin(), r.end(), '.', ',');
+    return r;
 }
 
 /** "M:SS", or "H:MM:SS". */
@@ -103,18 +105,25 @@ ecran ouvrirEcran(const reglages& r) {
 }
 
 std::string texteBarre(const total& t, const avancement& a, eLangue langue, int colonnes) {
-    std::string r = remplir(BARRE_COMPTES, langue,
-                            {std::to_string(a.finis), std::to_string(a.prevus), std::to_string(t.emis),
-                             std::to_string(t.rejets), std::to_string(t.echecs)});
-    if (a.finis >= FINIS_POUR_UN_DEBIT && a.secondes > 0) {
-        const double debit = static_cast<double>(a.finis) / a.secondes;
-        const std::string vitesse = remplir(BARRE_DEBIT, langue, {decimal(debit)});
-        const std::string reste =
-            remplir(BARRE_RESTE, langue, {duree(static_cast<double>(a.prevus - a.finis) / debit)});
-        if (largeur(r + vitesse) <= colonnes) r += vitesse;
-        if (largeur(r + reste) <= colonnes) r += reste;
-    }
-    const int place = std::min(colonnes - largeur(r) - 3, BARRE_MAX);
+    const auto compter = [&](long finis, long emis, long rejets, long echecs) {
+        return remplir(BARRE_COMPTES, langue,
+                       {std::to_string(finis), std::to_string(a.prevus), std::to_string(emis),
+                        std::to_string(rejets), std::to_string(echecs)});
+    };
+    // What may follow the bar at most, so that it keeps its length while the numbers grow.
+    int large = largeur(compter(a.prevus, a.prevus, a.prevus, a.prevus));
+    std::string r = compter(a.finis, t.emis, t.rejets, t.echecs);
+    const bool mesurable = a.finis >= FINIS_POUR_UN_DEBIT && a.secondes > 0;
+    const double debit = mesurable ? static_cast<double>(a.finis) / a.secondes : 0;
+    const auto ajouter = [&](const texte& quoi, const std::string& valeur, const std::string& longue) {
+        const int encore = largeur(remplir(quoi, langue, {longue}));
+        if (large + encore > colonnes) return;
+        large += encore;
+        if (mesurable) r += remplir(quoi, langue, {valeur});
+    };
+    ajouter(BARRE_DEBIT, decimal(debit, langue), "999.9");
+    ajouter(BARRE_RESTE, mesurable ? duree(static_cast<double>(a.prevus - a.finis) / debit) : "", "99:59");
+    const int place = std::min(colonnes - large - 3, BARRE_MAX);
     if (place >= BARRE_MIN && a.prevus > 0) {
         const auto plein = static_cast<std::size_t>(place * a.finis / a.prevus);
         std::string barre(plein, '=');
@@ -124,7 +133,7 @@ std::string texteBarre(const total& t, const avancement& a, eLangue langue, int 
     }
     while (largeur(r) > colonnes)
         r.pop_back();
-    return estUtf8(r) ? r : "";
+    return r;
 }
 
 void montrerBarre(ecran& e, const total& t, const avancement& a) {
@@ -167,12 +176,12 @@ void montrerTotal(ecran& e, const total& t, double secondes, long nonReposes, do
     if (t.finis() == 0 && t.pannes == 0 && t.rendus == 0) dire(e, BILAN_RIEN, {});
     if (t.finis() > 0)
         dire(e, BILAN_TITRE,
-             {std::to_string(t.finis()), decimal(secondes),
-              decimal(static_cast<double>(t.finis()) / std::max(secondes, 0.001)), std::to_string(t.emis),
-              std::to_string(t.rejets), std::to_string(t.echecs)});
+             {std::to_string(t.finis()), decimal(secondes, e.langue),
+              decimal(static_cast<double>(t.finis()) / std::max(secondes, 0.001), e.langue),
+              std::to_string(t.emis), std::to_string(t.rejets), std::to_string(t.echecs)});
     if (t.repris > 0) dire(e, BILAN_REPRIS, {std::to_string(t.repris)});
     if (t.rendus > 0) dire(e, BILAN_RENDUS, {std::to_string(t.rendus)});
-    if (nonReposes > 0) dire(e, BILAN_NON_REPOSES, {std::to_string(nonReposes), decimal(repos)});
+    if (nonReposes > 0) dire(e, BILAN_NON_REPOSES, {std::to_string(nonReposes), decimal(repos, e.langue)});
     if (t.pannes > 0) dire(e, BILAN_PANNES, {std::to_string(t.pannes)});
 }
 

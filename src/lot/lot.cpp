@@ -44,7 +44,8 @@ struct passage {
     double debut = heure();
     double debutRafale = 0;  // of the work that is going on
     double travail = 0;      // seconds of work, without waiting for files
-    long finisAvant = 0;     // what was done before it
+    total montre = {};       // what the bar leaves out: with --suivre all that was done before
+    double montreDebut = 0;  // `travail` at that time
     double releve = 0;       // when these were last done
     double metriques = 0;
     double garde = 0;
@@ -118,7 +119,11 @@ bool regarder(passage& p) {
     }
     confier(p.f, taches);
     p.debutRafale = heure();
-    p.finisAvant = p.fait.finis();
+    // The bar of a single pass is about all of it, also where files came later.
+    if (p.r.suivre) {
+        p.montre = p.fait;
+        p.montreDebut = p.travail;
+    }
     return !taches.empty();
 }
 
@@ -169,8 +174,9 @@ void mener(passage& p) {
             return;
         }
         if (p.malade || p.t.a != CONTINUER) abandonner(p.f);
-        const long finis = p.fait.finis() - p.finisAvant;
-        montrerBarre(p.e, p.fait, {finis, finis + reste, heure() - p.debutRafale});
+        const total t = depuis(p.fait, p.montre);
+        const double secondes = p.travail - p.montreDebut + heure() - p.debutRafale;
+        montrerBarre(p.e, t, {t.finis(), t.finis() + reste, secondes});
         if (heure() - p.metriques > METRIQUES) ecrireLesMetriques(p);
         patienter(p, TRANCHE);
     }

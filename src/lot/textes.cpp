@@ -110,21 +110,21 @@ const texte RAISON_ARCHIVE = {"Copie dans l'archive :", "Copy in the archive:"};
 const texte RAISON_ID = {"Ligne du journal (id) :", "Line of the journal (id):"};
 
 const texte LIGNE_EMIS = {"accepté  %1 ; enregistrements : %2", "accepted %1; records: %2"};
-const texte LIGNE_REJETS = {"refusé   %1 ; enregistrements : %2 refusés sur %3 ; erreurs : %4",
+const texte LIGNE_REJETS = {"refusé   %1 ; enregistrements refusés : %2 sur %3 ; erreurs : %4",
                             "refused  %1; records: %2 refused of %3; errors: %4"};
 const texte LIGNE_ECHECS = {"échec    %1 : %2", "failed   %1: %2"};
 const texte LIGNE_RENDU = {"remis    %1 (retour dans arrivee)", "put back %1 (stands in arrivee again)"};
 const texte LIGNE_REPRIS = {" [repris d'un passage interrompu]",
                             " [taken over from a run that was cut short]"};
 
-const texte BARRE_COMPTES = {"%1/%2 ; %3 acceptés, %4 refusés, %5 échecs",
+const texte BARRE_COMPTES = {"%1/%2 ; acceptés %3, refusés %4, échecs %5",
                              "%1/%2; %3 accepted, %4 refused, %5 failed"};
-const texte BARRE_DEBIT = {" ; %1 par s", "; %1 a s"};
+const texte BARRE_DEBIT = {" ; %1/s", "; %1/s"};
 const texte BARRE_RESTE = {" ; reste %1", "; %1 left"};
 
 const texte BILAN_RIEN = {"Aucun fichier à traiter.", "No file to process."};
-const texte BILAN_TITRE = {"Fichiers : %1 en %2 s (%3 par seconde) ; %4 acceptés, %5 refusés, %6 en échec.",
-                           "Files: %1 in %2 s (%3 a second); %4 accepted, %5 refused, %6 failed."};
+const texte BILAN_TITRE = {"Fichiers : %1 en %2 s (%3/s) ; acceptés %4, refusés %5, en échec %6.",
+                           "Files: %1 in %2 s (%3/s); %4 accepted, %5 refused, %6 failed."};
 const texte BILAN_REPRIS = {"Repris de passages interrompus : %1.",
                             "Taken over from runs that were cut short: %1."};
 const texte BILAN_RENDUS = {"Remis dans arrivee : %1.", "Put back into arrivee: %1."};

@@ -22,6 +22,15 @@ struct total {
     long finis() const { return emis + rejets + echecs; }
 };
 
+/** What has ended since `avant`, an earlier total of the same run. */
+inline total depuis(const total& t, const total& avant) {
+    total r;
+    r.emis = t.emis - avant.emis;
+    r.rejets = t.rejets - avant.rejets;
+    r.echecs = t.echecs - avant.echecs;
+    return r;
+}
+
 inline void compter(total& t, const bilan& b) {
     t.emis += b.issue == ISSUE_EMIS;
     t.rejets += b.issue == ISSUE_REJETS;
