@@ -21,6 +21,10 @@ if [ $essai = oui ] && [ "$(id -u)" -ne 0 ]; then
     essai=non
     echo "Not root: the test of the package in a fresh Debian root is skipped."
 fi
+if [ $essai = oui ] && ! unshare --mount --pid --fork true 2>/dev/null; then
+    essai=non
+    echo "No mount can be made here: the test of the package in a fresh Debian root is skipped."
+fi
 exiger g++ cmake ninja-build rapidjson-dev nettle-dev dpkg-dev lintian
 [ $essai = non ] || exiger mmdebstrap
 
@@ -93,10 +97,12 @@ if [ $essai = oui ]; then
     [ -s "$dossier/sources.list" ] || arreter "apt knows no archive of Debian's: run apt-get update"
     apt-config dump | grep -E '^Acquire::(http|https|Check|Retries)' >"$dossier/apt.conf" || true
     suite=$(. /etc/os-release && echo "$VERSION_CODENAME")
+    # What the package needs comes with the root, which then needs no network.
+    besoins=$(dpkg-deb -f "$dossier/$paquet" Depends | sed 's/([^)]*)//g; s/ //g')
     mkdir "$dossier/racine"
     echo "Fresh Debian root ($suite), about a minute."
-    mmdebstrap --quiet --variant=minbase --aptopt="$dossier/apt.conf" --skip=cleanup/apt "$suite" "$dossier/racine" \
-        "$dossier/sources.list" >>"$journal" 2>&1 || rater "the fresh Debian root cannot be made"
+    mmdebstrap --quiet --variant=minbase --aptopt="$dossier/apt.conf" --skip=cleanup/apt --include="$besoins" \
+        "$suite" "$dossier/racine" "$dossier/sources.list" >>"$journal" 2>&1 || rater "the fresh Debian root cannot be made"
     mkdir "$dossier/racine/essai"
     cp tests/paquet/essai.sh "$dossier/racine/essai/"
     cp "$dossier/$paquet" "$dossier/racine/essai/un.deb"

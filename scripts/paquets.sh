@@ -14,7 +14,7 @@ exiger() {
     [ ${#manquants[@]} -eq 0 ] && return 0
     local sudo=()
     if [ "$(id -u)" -ne 0 ]; then
-        command -v sudo >/dev/null || arreter "${manquants[*]}: not installed, and neither root nor sudo is at hand to install"
+        command -v sudo >/dev/null || arreter "${manquants[*]}: not installed, and neither root nor sudo is at hand to install. Have root run: apt-get install --no-install-recommends ${manquants[*]}"
         sudo=(sudo)
     fi
     command -v apt-get >/dev/null || arreter "${manquants[*]}: not installed, and this machine has no apt-get"

@@ -78,7 +78,13 @@ for p in quilvane-guide quilvane-lot; do $p --version >/dev/null || manquer "$p 
 rejouer
 tenir "README's example prints what it shows"
 
-install -d -o quilvane -g quilvane -m 2770 $depot $depot/arrivee
+# ecrit WORD: the commands of the operator's document that begin so.
+ecrit() {
+    sed -n "s/^    \($1 .*\)/\1/p" $documents/exploitation.md | grep . || manquer "the document has a command $1"
+}
+
+ecrit 'install -d' | bash -e || manquer "the document's commands make the spool"
+[ -d $depot/arrivee ] || manquer "the document's commands make $depot/arrivee"
 nombre=$(find $documents/exemples -name '*.vse' | wc -l)
 deposer a_
 statut=0
@@ -91,7 +97,9 @@ tenir "the service's command, as its user: $nombre files, each where it belongs"
 sleep 1
 deposer b_
 sleep 2
-dpkg -i /essai/deux.deb >/dev/null
+cp /essai/deux.deb /essai/quilvane_2_amd64.deb
+(cd /essai && ecrit 'apt-get install' | sed 's/VERSION/2/' | bash -e >/essai/apt.log 2>&1) ||
+    manquer "the document's command upgrades: $(tail -n 3 /essai/apt.log)"
 deposer c_
 for _ in $(seq 120); do
     [ "$(wc -l <$depot/journal.jsonl)" -lt $((3 * nombre)) ] || break
