@@ -22,10 +22,12 @@ exiger "${paquets[@]}"
 duree() { echo "$(($1 / 60)) min $(($1 % 60)) s"; }
 
 # sauter LOG: why tests were skipped, from ctest's own log of their output: the
-# line behind gtest's "Skipped", or a line that begins with "skipped: ".
+# line behind gtest's "Skipped", a line that begins with "skipped: ", or what
+# Python's unittest says behind the name of a test.
 sauter() {
     awk '/^[0-9]+\/[0-9]+ (Testing|Test): / { nom = $3 }
          /^skipped: / { sub(/^skipped: /, ""); print "skipped: " nom ": " $0 }
+         / \.\.\. skipped / { sub(/.* \.\.\. skipped ./, ""); sub(/.$/, ""); print "skipped: " nom ", one of its tests: " $0 }
          suivante { print "skipped: " nom ": " $0; suivante = 0 }
          /: Skipped$/ { suivante = 1 }' "$1"
 }

@@ -26,7 +26,17 @@ constexpr texte T_DESCRIPTION = {
     "reads files of VSE records without touching them and explains each record that quilvane(1) would "
     "refuse: the "
     "place, the field, the value received, what is required and how to mend it."};
+// Titles of sections; those that tools look for are known to them in both languages.
+constexpr texte T_TITRE_NOM = {"NOM", "NAME"};
 constexpr texte T_COMMANDES = {"COMMANDES", "COMMANDS"};
+constexpr texte T_TITRE_ENVIRONNEMENT = {"ENVIRONNEMENT", "ENVIRONMENT"};
+constexpr texte T_TITRE_STATUTS = {"STATUT DE SORTIE", "EXIT STATUS"};
+constexpr texte T_TITRE_EXEMPLES = {"EXEMPLES", "EXAMPLES"};
+constexpr texte T_TITRE_VOIR = {"VOIR AUSSI", "SEE ALSO"};
+constexpr texte T_EXEMPLE_AVANT = {"Avant l'envoi, une page à ouvrir dans un navigateur :",
+                                   "Before a file is sent, a page to be opened in a browser:"};
+constexpr texte T_EXEMPLE_APRES = {"Un fichier d'erreurs revenu, avec le fichier envoyé :",
+                                   "An error file that came back, with the file that was sent:"};
 constexpr texte T_ENVIRONNEMENT = {
     "La langue vient de LC_ALL, LC_MESSAGES ou LANG, la première qui n'est pas vide. NO_COLOR supprime les "
     "couleurs.",
@@ -69,13 +79,18 @@ std::string paragraphe(std::string_view t) {
     return r;
 }
 
-std::string optionMdoc(const sOption& o, eLangue langue) {
-    std::string t = ".It ";
+/** How an option is written: "Fl o , Fl \-sortie Ar FILE". */
+std::string ecritureMdoc(const sOption& o, eLangue langue) {
+    std::string t;
     if (o.lettre >= 'a') t += std::string("Fl ") + o.lettre + " , ";
     t += std::string("Fl \\-") + o.longue;
     if (o.autre != nullptr) t += std::string(" , Fl \\-") + o.autre;
     if (aArgument(o)) t += std::string(" Ar ") + o.argument.en_langue(langue);
-    return t + "\n" + paragraphe(std::string(o.aide.en_langue(langue)) + ".");
+    return t;
+}
+
+std::string optionMdoc(const sOption& o, eLangue langue) {
+    return ".It " + ecritureMdoc(o, langue) + "\n" + paragraphe(std::string(o.aide.en_langue(langue)) + ".");
 }
 
 /** The values that a word list of a shell takes: "a|b" as "a b". */
@@ -218,27 +233,36 @@ std::string pourFish(eLangue langue) {
 
 int manuel(const sDemandeLue& d) {
     const eLangue langue = d.langue;
-    // The sections that every manual page has keep their names: tools look for them.
-    std::string t = ".Dd November 22, 2026\n.Dt QUILVANE\\-GUIDE 1\n.Os\n.Sh NAME\n";
+    const auto section = [langue](const texte& titre) {
+        return std::string(".Sh ") + titre.en_langue(langue) + "\n";
+    };
+    std::string t = ".Dd November 22, 2026\n.Dt QUILVANE\\-GUIDE 1\n.Os\n" + section(T_TITRE_NOM);
     t += ".Nm quilvane\\-guide\n.Nd " + mdoc(T_NOM.en_langue(langue)) + "\n.Sh SYNOPSIS\n";
     for (const sCommande& c : commandes)
         t += std::string(".Nm\n.Cm ") + c.nom + "\n.Op Ar options\n" +
              (*c.arguments != '\0' ? ".Ar " + mdoc(c.arguments) + "\n" : "");
-    t += ".Sh DESCRIPTION\n.Nm\n" + paragraphe(T_DESCRIPTION.en_langue(langue)) + ".Sh " +
-         T_COMMANDES.en_langue(langue) + "\n.Bl -tag -width Ds\n";
+    t += ".Sh DESCRIPTION\n.Nm\n" + paragraphe(T_DESCRIPTION.en_langue(langue)) + section(T_COMMANDES) +
+         ".Bl -tag -width Ds\n";
     for (const sCommande& c : commandes) {
         t += std::string(".It Cm ") + c.nom + (*c.arguments != '\0' ? " Ar " + mdoc(c.arguments) : "") +
              "\n" + paragraphe(c.detail.en_langue(langue));
         if (*c.formats != '\0') t += ".br\n.Fl \\-format Ar " + mdoc(c.formats) + "\n";
+        for (const sOption& o : options)
+            if (!o.partout && o.lettre != 'F' && connait(c, o))
+                t += ".br\n." + ecritureMdoc(o, langue) + "\n";
     }
     t += ".El\n.Sh OPTIONS\n.Bl -tag -width Ds\n";
     for (const sOption& o : options)
         t += optionMdoc(o, langue);
-    t += std::string(".El\n.Sh ") + "ENVIRONMENT" + "\n" + paragraphe(T_ENVIRONNEMENT.en_langue(langue)) +
-         ".Sh EXIT STATUS\n.Bl -tag -width Ds\n";
+    t += ".El\n" + section(T_TITRE_ENVIRONNEMENT) + paragraphe(T_ENVIRONNEMENT.en_langue(langue)) +
+         section(T_TITRE_STATUTS) + ".Bl -tag -width Ds\n";
     for (int k = 0; k < 4; ++k)
         t += ".It " + std::to_string(k) + "\n" + paragraphe(T_STATUTS[k].en_langue(langue));
-    t += std::string(".El\n.Sh ") + "SEE ALSO" + "\n.Xr quilvane 1 ,\n.Xr quilvane\\-lot 1\n";
+    t += ".El\n" + section(T_TITRE_EXEMPLES) + paragraphe(T_EXEMPLE_AVANT.en_langue(langue)) +
+         ".Pp\n.Dl quilvane\\-guide verifier \\-\\-format html \\-o acti.html acti.vse\n.Pp\n" +
+         paragraphe(T_EXEMPLE_APRES.en_langue(langue)) +
+         ".Pp\n.Dl quilvane\\-guide retour \\-\\-source acti.vse acti.out\n";
+    t += section(T_TITRE_VOIR) + ".Xr quilvane 1 ,\n.Xr quilvane\\-lot 1\n";
     return imprimer(t, langue) ? STATUT_ACCEPTE : STATUT_ARRET;
 }
 

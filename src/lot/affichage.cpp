@@ -98,7 +98,8 @@ ecran ouvrirEcran(const reglages& r) {
     e.langue = r.langue;
     const char* const term = std::getenv("TERM");
     const char* const sans = std::getenv("NO_COLOR");
-    e.terminal = isatty(STDOUT_FILENO) == 1 && term != nullptr && std::strcmp(term, "dumb") != 0;
+    e.terminal =
+        isatty(STDOUT_FILENO) == 1 && term != nullptr && *term != '\0' && std::strcmp(term, "dumb") != 0;
     const bool permises = sans == nullptr || *sans == '\0';
     e.couleurs = r.couleur == COULEUR_TOUJOURS || (r.couleur == COULEUR_AUTO && e.terminal && permises);
     return e;

@@ -248,4 +248,4 @@ class Commandes(banc.Cas):
 
 
 if __name__ == "__main__":
-    unittest.main()
+    unittest.main(verbosity=2)

@@ -50,4 +50,4 @@ class Documents(banc.Cas):
 
 
 if __name__ == "__main__":
-    unittest.main()
+    unittest.main(verbosity=2)

@@ -235,4 +235,4 @@ class Fautes(banc.Cas):
 
 
 if __name__ == "__main__":
-    unittest.main()
+    unittest.main(verbosity=2)

@@ -154,4 +154,4 @@ class Formats(banc.Cas):
 
 
 if __name__ == "__main__":
-    unittest.main()
+    unittest.main(verbosity=2)
