@@ -11,7 +11,7 @@ set -euo pipefail
 . "$(dirname "$0")/paquets.sh"
 cd "$racine"
 exiger g++ cmake ninja-build rapidjson-dev nettle-dev libgtest-dev faketime python3
-construire release
+construire release quilvane quilvane-guide quilvane-lot tests_lot
 echo "a runner killed before, and refused, each of its file calls"
 QUILVANE_LOT_PAS=1 build/release/tests/tests_lot --gtest_brief=1 --gtest_filter='RepriseLot.*' ||
     arreter "something was lost or doubled"

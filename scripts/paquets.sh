@@ -45,10 +45,14 @@ journaliser() {
     return 1
 }
 
-# construire PRESET: configures and builds one preset. What compiler and linker
+# construire PRESET [TARGET...]: configures and builds one preset, or these targets of it. What compiler and linker
 # say stands in build/PRESET/construction.log; of a build that succeeds that is
 # the linker's warning of tempnam, which CONTRIBUTING.md explains.
 construire() {
-    journaliser "build/$1/configuration.log" cmake --preset "$1" || arreter "preset $1 cannot be configured"
-    journaliser "build/$1/construction.log" cmake --build --preset "$1" -- --quiet || arreter "preset $1 does not build"
+    local preset=$1 cibles=()
+    shift
+    [ $# -eq 0 ] || cibles=(--target "$@")
+    journaliser "build/$preset/configuration.log" cmake --preset "$preset" || arreter "preset $preset cannot be configured"
+    journaliser "build/$preset/construction.log" cmake --build --preset "$preset" "${cibles[@]}" -- --quiet ||
+        arreter "preset $preset does not build"
 }
