@@ -3,6 +3,7 @@
 lot_epreuve.py BUILD EXAMPLES [--graine N] [--fichiers N] [--coups N] [--partages N]
 """
 import argparse
+import fcntl
 import glob
 import hashlib
 import json
@@ -104,8 +105,12 @@ def lancer(lot, depot, *options):
 
 
 def finir(lot, depot):
-    """Undisturbed passes until nothing is left to take over."""
+    """Undisturbed passes until nothing is left to take over. What a killed runner had
+    started dies with it, but a moment later, and holds the lock of its folder until then."""
     for _ in range(3):
+        for verrou in glob.glob(glob.escape(depot) + "/encours/*/verrou"):
+            with open(verrou, "rb+") as f:
+                fcntl.flock(f, fcntl.LOCK_EX)
         lancer(lot, depot, "-j", "2").wait()
 
 

@@ -5,6 +5,7 @@
 #include <fcntl.h>
 #include <signal.h>
 #include <sys/file.h>
+#include <unistd.h>
 
 #include <cstdlib>
 
@@ -17,13 +18,26 @@ namespace {
 
 constexpr int ASSEZ = 3000;
 
+/** What a killed runner had started dies with it, but not at the same instant, and
+ *  holds the lock until then: the next runner would leave that folder to a later one. */
+void attendreVerrous(const depotEssai& s) {
+    for (const std::string& casier : s.noms("encours")) {
+        const int fd = open(s.d.nom("depot/encours/" + casier + "/verrou").c_str(), O_RDWR | O_CLOEXEC);
+        if (fd < 0) continue;
+        EXPECT_EQ(flock(fd, LOCK_EX), 0);
+        close(fd);
+    }
+}
+
 resultat lancerAvec(const depotEssai& s, const std::string& faute, bool sansRenameat2 = false) {
     options o;
     o.precharge = {QUILVANE_INJECTEUR_LOT};
     o.milieu["QUILVANE_LOT_FAUTE"] = faute;
     o.milieu["QUILVANE_LOT_TEMOIN"] = s.d.nom("temoin");
     if (sansRenameat2) o.milieu["QUILVANE_LOT_SANS_RENAMEAT2"] = "1";
-    return s.lancerLot({}, o);
+    const resultat r = s.lancerLot({}, o);
+    attendreVerrous(s);
+    return r;
 }
 
 /** A run that is disturbed at call `n`, then an undisturbed one; false when `n`
