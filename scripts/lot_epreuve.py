@@ -9,6 +9,7 @@ import hashlib
 import json
 import os
 import random
+import re
 import shutil
 import subprocess
 import sys
@@ -54,11 +55,13 @@ class Depot:
             for nom in os.listdir(self.racine + "/" + lieu):
                 fautes.append("%s/%s is left" % (lieu, nom))
         places = {}
+        publies = set()
         for lieu in LIEUX:
             for nom in os.listdir(self.racine + "/" + lieu):
-                if nom.endswith(".raison.txt"):
-                    continue
-                places.setdefault(nom, []).append(lieu)
+                publies.add(lieu + "/" + nom)
+                # Beside a file its reason, or its reports.
+                if not re.fullmatch(r"f\d+\.vse\.(raison\.txt|txt|html)", nom):
+                    places.setdefault(nom, []).append(lieu)
         archives = {}
         for dossier, _, noms in os.walk(self.racine + "/archive"):
             for nom in noms:
@@ -92,6 +95,11 @@ class Depot:
                 fautes.append("%s: changed in echecs" % nom)
             if attendu is None and ligne["resultat"]["sha256"] != sha256(fichier):
                 fautes.append("%s: wrong digest of the result" % nom)
+        dits = [f for l in lignes.values() for f in l[0]["fichiers"]]
+        for nom in sorted(publies ^ set(dits)):
+            fautes.append("%s is %s" % (nom, "in no line of the journal" if nom in publies else "missing"))
+        if len(dits) != len(set(dits)):
+            fautes.append("a file stands in two lines of the journal")
         for faute in fautes[:20]:
             print("  " + faute)
         repris = sum(l[0]["repris"] for l in lignes.values())

@@ -2,6 +2,7 @@
 # Makes the source archive and the Debian package, and tests the package.
 #
 #   scripts/paquet.sh              all of it; the results stand in build/paquet
+#   scripts/paquet.sh service      then the units and the cron line in a root that is booted
 #   scripts/paquet.sh sans-essai   without the test in a fresh Debian root
 #
 # Both are made twice, in folders of different names, and must be the same byte
@@ -16,7 +17,13 @@ cd "$racine"
 licence='copyright-without-copyright-notice'
 
 essai=oui
-[ "${1:-}" != sans-essai ] || essai=non
+service=non
+case "$*" in
+'') ;;
+sans-essai) essai=non ;;
+service) service=oui ;;
+*) arreter "'$*' is not known; the only words are: service, sans-essai" ;;
+esac
 if [ $essai = oui ] && [ "$(id -u)" -ne 0 ]; then
     essai=non
     echo "Not root: the test of the package in a fresh Debian root is skipped."
@@ -27,6 +34,7 @@ if [ $essai = oui ] && ! unshare --mount --pid --fork true 2>/dev/null; then
 fi
 exiger g++ cmake ninja-build rapidjson-dev nettle-dev dpkg-dev lintian
 [ $essai = non ] || exiger mmdebstrap
+[ $service = non ] || [ $essai = non ] || exiger systemd-container
 
 dossier=$racine/build/paquet
 journal=$dossier/paquet.log
@@ -68,6 +76,50 @@ fabriquer() {
     ) >>"$journal" 2>&1 || rater "the package cannot be made"
 }
 
+# faireRacine PACKAGES: a fresh Debian root with these, from where this machine takes
+# its Debian from, and by the same way; both packages stand in /essai.
+faireRacine() {
+    # shellcheck disable=SC2016 # the names in parentheses are apt's
+    apt-get indextargets --format 'deb $(REPO_URI) $(RELEASE) $(COMPONENT)' 'Identifier: Packages' 'ORIGIN: Debian' |
+        sort -u >"$dossier/sources.list"
+    [ -s "$dossier/sources.list" ] || arreter "apt knows no archive of Debian's: run apt-get update"
+    apt-config dump | grep -E '^Acquire::(http|https|Check|Retries)' >"$dossier/apt.conf" || true
+    local suite
+    suite=$(. /etc/os-release && echo "$VERSION_CODENAME")
+    mkdir "$dossier/racine"
+    echo "Fresh Debian root ($suite), about a minute."
+    mmdebstrap --quiet --variant=minbase --aptopt="$dossier/apt.conf" --skip=cleanup/apt --include="$1" \
+        "$suite" "$dossier/racine" "$dossier/sources.list" >>"$journal" 2>&1 || rater "the fresh Debian root cannot be made"
+    mkdir "$dossier/racine/essai"
+    cp "$dossier/$paquet" "$dossier/racine/essai/un.deb"
+    cp "$dossier/un/$nom/b/"quilvane_*0local2*.deb "$dossier/racine/essai/deux.deb"
+}
+
+# essayerService: boots a root and runs tests/paquet/service.sh in it.
+essayerService() {
+    faireRacine "$besoins,systemd,systemd-sysv,dbus,cron"
+    cp tests/paquet/service.sh "$dossier/racine/essai/"
+    local unites=$dossier/racine/etc/systemd/system seul=()
+    cat >"$unites/essai.service" <<'fin'
+[Unit]
+After=multi-user.target
+[Service]
+Type=oneshot
+ExecStart=/bin/bash /essai/service.sh
+ExecStopPost=/bin/systemctl poweroff --no-block
+fin
+    mkdir -p "$unites/multi-user.target.wants"
+    ln -s ../essai.service "$unites/multi-user.target.wants/"
+    # Where no systemd runs there is none to ask for a place among its units.
+    [ -d /run/systemd/system ] || seul=(--keep-unit)
+    echo "The root is booted, about three minutes."
+    timeout 1800 systemd-nspawn --quiet --directory="$dossier/racine" --boot --register=no "${seul[@]}" </dev/null \
+        >>"$journal" 2>&1 || true
+    grep -v '^end$' "$dossier/racine/essai/dit" || rater "the root could not be booted"
+    tail -n 1 "$dossier/racine/essai/dit" | grep -qx end || rater "the units failed their test"
+    rm -rf --one-file-system "$dossier/racine"
+}
+
 archiver "$dossier/$nom.tar.gz"
 archiver "$dossier/encore.tar.gz"
 cmp "$dossier/$nom.tar.gz" "$dossier/encore.tar.gz" || arreter "two source archives differ"
@@ -89,27 +141,15 @@ if [ $essai = oui ]; then
     # A later package of the same, to upgrade to.
     (cd "$dossier/un/$nom/b" && cmake -DCPACK_DEBIAN_PACKAGE_RELEASE=0local2 . && cpack -G DEB) >>"$journal" 2>&1 ||
         rater "the later package cannot be made"
-    # The fresh root comes from where this machine takes its Debian from, and by
-    # the same way.
-    # shellcheck disable=SC2016 # the names in parentheses are apt's
-    apt-get indextargets --format 'deb $(REPO_URI) $(RELEASE) $(COMPONENT)' 'Identifier: Packages' 'ORIGIN: Debian' |
-        sort -u >"$dossier/sources.list"
-    [ -s "$dossier/sources.list" ] || arreter "apt knows no archive of Debian's: run apt-get update"
-    apt-config dump | grep -E '^Acquire::(http|https|Check|Retries)' >"$dossier/apt.conf" || true
-    suite=$(. /etc/os-release && echo "$VERSION_CODENAME")
     # What the package needs comes with the root, which then needs no network.
     besoins=$(dpkg-deb -f "$dossier/$paquet" Depends | sed 's/([^)]*)//g; s/ //g')
-    mkdir "$dossier/racine"
-    echo "Fresh Debian root ($suite), about a minute."
-    mmdebstrap --quiet --variant=minbase --aptopt="$dossier/apt.conf" --skip=cleanup/apt --include="$besoins" \
-        "$suite" "$dossier/racine" "$dossier/sources.list" >>"$journal" 2>&1 || rater "the fresh Debian root cannot be made"
-    mkdir "$dossier/racine/essai"
+    faireRacine "$besoins"
     cp tests/paquet/essai.sh "$dossier/racine/essai/"
-    cp "$dossier/$paquet" "$dossier/racine/essai/un.deb"
-    cp "$dossier/un/$nom/b/"quilvane_*0local2*.deb "$dossier/racine/essai/deux.deb"
+    # shellcheck disable=SC2016 # for the inner shell
     unshare --mount --pid --fork --kill-child sh -c \
         'mount -t proc proc "$1/proc" && exec chroot "$1" bash /essai/essai.sh' sh "$dossier/racine" 2>>"$journal" ||
         rater "the package failed its test"
     rm -rf --one-file-system "$dossier/racine"
+    [ $service = non ] || essayerService
 fi
 rm -rf "$dossier/un" "$dossier/une-autre-fois"

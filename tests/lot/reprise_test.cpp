@@ -8,6 +8,8 @@
 #include <unistd.h>
 
 #include <cstdlib>
+#include <set>
+#include <sstream>
 
 #include "lot/depot_essai.h"
 
@@ -76,6 +78,21 @@ void derangerPartout(const char* action, bool sansRenameat2 = false) {
 const char* const ID = "20240316-112233-0123456789abcdef";
 
 }  // namespace
+
+TEST(RepriseLot, ToutesLesSortesDAppels) {
+    // What the tests below disturb is all that the runner does with files.
+    const depotEssai s;
+    s.deposer(troisEntrees());
+    lancerAvec(s, "1:noter");
+    verifierDepot(s, troisEntrees());
+    std::istringstream flux(s.d.lire("temoin"));
+    std::set<std::string> vus;
+    for (std::string appel; std::getline(flux, appel);)
+        vus.insert(appel);
+    EXPECT_EQ(vus, (std::set<std::string>{"fdopendir", "flock", "fork", "fstat", "fstatat", "fsync", "linkat",
+                                          "mkdirat", "openat", "pipe2", "pread", "read", "readdir",
+                                          "renameat", "renameat2", "unlinkat", "write"}));
+}
 
 TEST(RepriseLot, TueAvantChaqueAppel) { derangerPartout("tuer"); }
 
