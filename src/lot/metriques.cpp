@@ -25,12 +25,16 @@ constexpr const char* REFUSES_TOTAL = "quilvane_lot_enregistrements_total{verdic
 constexpr const char* PANNES_TOTAL = "quilvane_lot_incidents_total";
 constexpr const char* SECONDES_TOTAL = "quilvane_lot_traitement_secondes_total";
 
-/** The value of a series, 0 when the file does not have it. */
+/** The value of a series, 0 when the file does not have it or when others wrote
+ *  there what no counter reaches. */
 double valeur(const std::string& octets, const std::string& serie) {
+    constexpr double PLUS_QUE_ASSEZ = 1e15;
     std::size_t p = octets.find(serie + " ");
     while (p != std::string::npos && p > 0 && octets[p - 1] != '\n')
         p = octets.find(serie + " ", p + 1);
-    return p == std::string::npos ? 0 : std::strtod(octets.c_str() + p + serie.size(), nullptr);
+    if (p == std::string::npos) return 0;
+    const double v = std::strtod(octets.c_str() + p + serie.size(), nullptr);
+    return v >= 0 && v < PLUS_QUE_ASSEZ ? v : 0;
 }
 
 /** The folder of a path, and the name in it. */

@@ -414,6 +414,26 @@ TEST(Lot, Metriques) {
     EXPECT_EQ(s.lancerLot({"--metriques", "absent/m.prom"}).statut, 1);
 }
 
+// Values that no counter reaches are not counted on; the others are.
+TEST(Lot, MetriquesAbimees) {
+    const depotEssai s;
+    s.d.ecrire("m.prom",
+               "quilvane_lot_fichiers_total{issue=\"emis\"} 1e300\n"
+               "quilvane_lot_fichiers_total{issue=\"rejets\"} -1\n"
+               "quilvane_lot_fichiers_total{issue=\"echecs\"} 41\n"
+               "quilvane_lot_incidents_total nan\n"
+               "quilvane_lot_traitement_secondes_total inf\n");
+    s.deposer(troisEntrees());
+    EXPECT_EQ(s.lancerLot({"--metriques", "m.prom"}).statut, 1);
+    const std::string m = s.d.lire("m.prom");
+    for (const char* ligne :
+         {"\nquilvane_lot_fichiers_total{issue=\"emis\"} 1\n",
+          "\nquilvane_lot_fichiers_total{issue=\"rejets\"} 1\n",
+          "\nquilvane_lot_fichiers_total{issue=\"echecs\"} 42\n", "\nquilvane_lot_incidents_total 0\n"})
+        EXPECT_NE(m.find(ligne), std::string::npos) << ligne << m;
+    EXPECT_EQ(m.find("secondes_total inf"), std::string::npos);
+}
+
 TEST(Lot, Garder) {
     const depotEssai s;
     s.d.creerDossier("ailleurs");
