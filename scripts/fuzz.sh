@@ -11,7 +11,7 @@ exiger clang libclang-rt-dev cmake ninja-build rapidjson-dev nettle-dev
 
 duree=${1:-30}
 [ $# -gt 0 ] && shift
-[ $# -gt 0 ] || set -- arguments enregistrement fichier guide verifs
+[ $# -gt 0 ] || set -- arguments enregistrement fichier guide lot module verifs
 cmake --preset fuzz >/dev/null || arreter "preset fuzz cannot be configured"
 cmake --build --preset fuzz -- --quiet || arreter "preset fuzz does not build"
 
