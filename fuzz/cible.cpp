@@ -1,12 +1,11 @@
 #include "cible.h"
 
 #include <fcntl.h>
+#include <ftw.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <filesystem>
-#include <fstream>
-#include <iterator>
+#include <cstdio>
 
 #include "attgetopt/attgetopt.h"
 #include "driver/etat.h"
@@ -19,12 +18,16 @@ using namespace quilvane;
 
 namespace {
 
+// C's files: what memory holds is then known to every sanitizer.
+
+int retirer(const char* nom, const struct stat*, int, struct FTW*) { return std::remove(nom); }
+
 /** The scratch folder, removed with the process. */
 struct ephemere {
     std::string chemin;
     ephemere() {
         std::string modele =
-            (std::filesystem::exists("/dev/shm") ? "/dev/shm" : "/tmp") + std::string("/quilvane-XXXXXX");
+            (access("/dev/shm", W_OK) == 0 ? "/dev/shm" : "/tmp") + std::string("/quilvane-XXXXXX");
         if (mkdtemp(modele.data()) == nullptr || chdir(modele.c_str()) != 0) std::abort();
         unsetenv("TMPDIR");
         const int rien = open("/dev/null", O_WRONLY);
@@ -32,10 +35,7 @@ struct ephemere {
         close(rien);
         chemin = modele;
     }
-    ~ephemere() {
-        std::error_code ignore;
-        std::filesystem::remove_all(chemin, ignore);
-    }
+    ~ephemere() { nftw(chemin.c_str(), retirer, 8, FTW_DEPTH | FTW_PHYS); }
 };
 
 void liberer(const char* nom) {
@@ -55,14 +55,23 @@ void remettreAZero() {
 }
 
 std::string lire(const std::string& nom) {
-    std::ifstream f(nom, std::ios::binary);
-    return {std::istreambuf_iterator<char>(f), std::istreambuf_iterator<char>()};
+    std::string octets;
+    std::FILE* const f = std::fopen(nom.c_str(), "rb");
+    if (f == nullptr) return octets;
+    char bloc[65536];
+    for (std::size_t n; (n = std::fread(bloc, 1, sizeof bloc, f)) > 0;)
+        octets.append(bloc, n);
+    std::fclose(f);
+    return octets;
 }
 
 bool existe(const std::string& nom) { return access(nom.c_str(), F_OK) == 0; }
 
 void ecrire(const std::string& nom, const std::string& contenu) {
-    std::ofstream(nom, std::ios::binary) << contenu;
+    std::FILE* const f = std::fopen(nom.c_str(), "wb");
+    if (f == nullptr) return;
+    std::fwrite(contenu.data(), 1, contenu.size(), f);
+    std::fclose(f);
 }
 
 const std::string& dossier() {

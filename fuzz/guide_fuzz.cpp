@@ -61,7 +61,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* octets, std::size_t ta
     const std::string lignes = rapporter(FORMAT_JSONL, demande, fichier);
     for (std::size_t debut = 0, fin; (fin = lignes.find('\n', debut)) != std::string::npos; debut = fin + 1)
         cible::verifier(estJson(std::string_view(lignes).substr(debut, fin - debut)), "a line is no JSON");
-    for (const eFormat format : {FORMAT_TEXTE, FORMAT_CSV, FORMAT_HTML})
+    for (const eFormat format : {FORMAT_TEXTE, FORMAT_CSV})
         cible::verifier(!rapporter(format, demande, fichier).empty(), "a report is empty");
+    // The page around it takes longer than all the rest.
+    if ((octets[0] & 0xF0U) == 0)
+        cible::verifier(!rapporter(FORMAT_HTML, demande, fichier).empty(), "a report is empty");
     return 0;
 }
