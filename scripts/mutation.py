@@ -6,6 +6,7 @@ header is first shown to the library alone; if it survives, the tests that
 include the header are built again as well.
 """
 
+import collections
 import concurrent.futures
 import fcntl
 import json
@@ -23,7 +24,7 @@ import time
 from collections import Counter
 from pathlib import Path
 
-COPIES = ["CMakeLists.txt", "README.md", "src", "tests", "exemples", "fuzz"]
+COPIES = ["CMakeLists.txt", "README.md", "cmake", "completions", "doc", "systemd", "src", "tests", "exemples", "fuzz"]
 PIECES = ["checks", "messages", "rules", "controle", "driver"]
 
 # Test programs that can notice a change in a room, the most specific first.
@@ -34,6 +35,9 @@ PROGRAMMES = {
     "controle": ["tests_controle", "tests_driver", "tests_end_to_end", "tests_messages"],
     "driver": ["tests_driver", "tests_end_to_end", "tests_fautes"],
 }
+
+# What the changed sources are linked into, for a run of its own each a shared library.
+BIBLIOTHEQUES = ["quilvane_noyau", "quilvane_produit"]
 
 # Out of 100 sampled changes: how many are rule cells, list entries, code.
 PARTS = {"cell": 35, "list": 15, "code": 50}
@@ -50,6 +54,9 @@ CONTRAIRES = {
 
 COLONNES = ["field", "first", "last", "CRE", "DEM", "INV", "EDI", "MOD",
             "check", "list", "dependency", "error"]
+
+
+Site = collections.namedtuple("Site", "fichier place genre apres cellule jeton")
 
 
 class Changement:
@@ -181,7 +188,7 @@ def sites(racine):
                 if len(places) != len(COLONNES):
                     sys.exit(f"mutation: {fichier}: not a rule row: {avant.strip()}")
                 for colonne, place in zip(COLONNES, places):
-                    yield fichier, place, "cell", autresCellules(colonne, source[slice(*place)], table), colonne
+                    yield Site(fichier, place, "cell", autresCellules(colonne, source[slice(*place)], table), colonne, genre)
                 continue
             place = m.span()
             if genre == "texte":
@@ -204,7 +211,7 @@ def sites(racine):
                 apres = CONTRAIRES[avant]
             if apres:
                 liste = chemin.name == "valautorise.h" and genre == "texte"
-                yield fichier, place, "list" if liste else "code", apres, ""
+                yield Site(fichier, place, "list" if liste else "code", apres, "", genre)
 
 
 def declaration(source, position):
@@ -231,7 +238,7 @@ def echantillon(racine, nombre, graine):
         combien = nombre * part // 100 if genre != "code" else nombre - len(choix)
         choix += hasard.sample(parGenre[genre], min(combien, len(parGenre[genre])))
     sources, changements = {}, []
-    for fichier, (debut, fin), genre, apres, cellule in choix:
+    for fichier, (debut, fin), genre, apres, cellule, _ in choix:
         source = sources.setdefault(fichier, (racine / fichier).read_text(encoding="utf-8"))
         ligne = source.count("\n", 0, debut) + 1
         texte = marquer(source, debut, fin)
@@ -259,22 +266,25 @@ def exclusions(fichier):
 # ------------------------------------------------------------------ the build
 
 
-def copier(racine, copie):
-    """Brings the copy up to date; unchanged files keep their time."""
+def copier(racine, copie, partage=True, sauf=()):
+    """Brings the copy up to date but for the files in `sauf`; unchanged files keep their time."""
     vus = set()
     for nom in COPIES:
         origine = racine / nom
         for p in [origine] if origine.is_file() else sorted(q for q in origine.rglob("*") if q.is_file()):
             relatif = p.relative_to(racine)
             vus.add(relatif)
+            if relatif.as_posix() in sauf:
+                continue
             octets = p.read_bytes()
-            if relatif.as_posix() == "CMakeLists.txt":
-                octets = remplacer(octets, b"add_library(quilvane_produit STATIC",
-                                   b"add_library(quilvane_produit SHARED")
+            if relatif.as_posix() == "CMakeLists.txt" and partage:
+                for nomDeCible in BIBLIOTHEQUES:
+                    octets = remplacer(octets, f"add_library({nomDeCible} STATIC".encode(),
+                                       f"add_library({nomDeCible} SHARED".encode())
             if relatif.as_posix() == "tests/CMakeLists.txt":
-                # Each worker has its own program.
-                octets = remplacer(octets, b'QUILVANE_BINAIRE="$<TARGET_FILE:quilvane>"',
-                                   b'"QUILVANE_BINAIRE=std::getenv(\\"QUILVANE_BINAIRE\\")"')
+                # Each worker has its own program; the runner's tests have a definition of their own.
+                octets = remplacer(octets, b'QUILVANE_BINAIRE="$<TARGET_FILE:quilvane>"\n  QUILVANE_LIBFAKETIME',
+                                   b'"QUILVANE_BINAIRE=std::getenv(\\"QUILVANE_BINAIRE\\")"\n  QUILVANE_LIBFAKETIME')
             cible = copie / relatif
             if not cible.exists() or cible.read_bytes() != octets:
                 cible.parent.mkdir(parents=True, exist_ok=True)
@@ -295,20 +305,38 @@ def lien(copie):
     return [f"-Wl,--dynamic-list={copie}/horloge.txt", "-Wl,--dynamic-list-data"]
 
 
-def configurer(copie, construit):
-    # The library uses its own functions, inline ones too, but for the clock,
+def configurer(copie, construit, partage=True):
+    # The libraries use their own functions, inline ones too, but for the clock,
     # which a test replaces.
-    (copie / "horloge.txt").write_text(
-        '{ extern "C++" { quilvane::maintenant*; quilvane::heureLocale*; }; };\n', encoding="utf-8")
     reglages = ["-DCMAKE_BUILD_TYPE=Debug", "-DCMAKE_CXX_FLAGS_DEBUG=-O0", "-DCMAKE_CXX_COMPILER=g++",
-                "-DCMAKE_BUILD_RPATH_USE_ORIGIN=ON", "-DCMAKE_SHARED_LINKER_FLAGS=" + " ".join(lien(copie))]
+                "-DCMAKE_BUILD_RPATH_USE_ORIGIN=ON", "-DQUILVANE_TESTS=ON"]
+    if partage:
+        (copie / "horloge.txt").write_text(
+            '{ extern "C++" { quilvane::maintenant*; quilvane::heureLocale*; }; };\n', encoding="utf-8")
+        reglages.append("-DCMAKE_SHARED_LINKER_FLAGS=" + " ".join(lien(copie)))
     if shutil.which("ccache"):
         reglages.append("-DCMAKE_CXX_COMPILER_LAUNCHER=ccache")
     obliger(["cmake", "-G", "Ninja", "-S", copie, "-B", construit, *reglages])
 
 
+def programmesDe(fichier):
+    """The test programs for a change in a file. The proof of a rule table is nothing at run time."""
+    return ["tests_tables"] if fichier == "src/rules/preuve.h" else PROGRAMMES[fichier.split("/")[1]]
+
+
 def cibles():
     return sorted({p for liste in PROGRAMMES.values() for p in liste})
+
+
+def commandesDe(construit, copie):
+    """How each source of the copy's src/ is compiled."""
+    commandes = {}
+    for entree in json.loads((construit / "compile_commands.json").read_text()):
+        source = Path(entree["file"])
+        if source.is_relative_to(copie / "src"):
+            commandes[source.relative_to(copie).as_posix()] = [
+                mot for mot in shlex.split(entree["command"]) if Path(mot).name != "ccache" and mot != "-Werror"] + ["-w"]
+    return commandes
 
 
 def obliger(commande):
@@ -329,14 +357,15 @@ def limiter():
     resource.setrlimit(resource.RLIMIT_AS, (1 << 32, 1 << 32))
 
 
-def lancer(programme, binaire, dossier, delai):
-    """Whether the test program passes."""
+def lancer(programme, binaire, dossier, delai, filtre="*", secondes=None):
+    """Whether the test program passes, within `delai` and, each process, `secondes` of work."""
     shutil.rmtree(dossier, ignore_errors=True)
     dossier.mkdir(parents=True)
     milieu = {**os.environ, "TMPDIR": str(dossier), "QUILVANE_BINAIRE": str(binaire)}
-    p = subprocess.Popen([programme, "--gtest_brief=1", "--gtest_fail_fast"], cwd=dossier, env=milieu,
-                         stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
-                         start_new_session=True)
+    borner = None if secondes is None else lambda: resource.setrlimit(resource.RLIMIT_CPU, (secondes, secondes))
+    p = subprocess.Popen([programme, "--gtest_brief=1", "--gtest_fail_fast", f"--gtest_filter={filtre}"], cwd=dossier,
+                         env=milieu, stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
+                         start_new_session=True, preexec_fn=borner)
     try:
         return p.wait(delai) == 0
     except subprocess.TimeoutExpired:
@@ -362,8 +391,8 @@ class Atelier:
         shutil.rmtree(self.ici, ignore_errors=True)
         shutil.copytree(copie / "src", self.src)
         (self.ici / "tests").mkdir()
-        self.bibliotheque = self.ici / "libquilvane_produit.so"
-        shutil.copy2(construit / self.bibliotheque.name, self.bibliotheque)
+        for nom in BIBLIOTHEQUES:
+            shutil.copy2(construit / f"lib{nom}.so", self.ici)
         shutil.copy2(construit / "quilvane", self.ici)
         for nom in cibles():
             shutil.copy2(construit / "tests" / nom, self.ici / "tests")
@@ -379,26 +408,42 @@ class Atelier:
             fichier.write_text(intact, encoding="utf-8")
 
     def construire(self, changement):
-        objets = []
+        for nom in BIBLIOTHEQUES:
+            if not self.bibliotheque(nom, changement):
+                return "compiler"
+        return ""
+
+    def bibliotheque(self, nom, changement):
+        """The library with the change; the one that was built when nothing of it is concerned."""
+        cible = self.ici / f"lib{nom}.so"
+        objets, changes = [], 0
         for source, (commande, objet) in self.commandes.items():
+            if not objet.startswith(f"CMakeFiles/{nom}.dir/"):
+                continue
             if changement.fichier not in self.dependances[source]:
                 objets.append(self.construit / objet)
                 continue
-            change = self.ici / (Path(source).stem + ".o")
+            changes += 1
+            change = self.ici / (source.replace("/", "_") + ".o")
             mots = [m.replace(f"{self.copie}/src", str(self.src)) for m in commande]
             mots[mots.index("-o") + 1] = str(change)
             if not reussit(mots, self.construit):
-                return "compiler"
+                return False
             objets.append(change)
         neuve = self.ici / "neuve.so"
-        commande = ["g++", "-shared", *lien(self.copie), f"-Wl,-soname,{self.bibliotheque.name}", "-o", neuve, *objets]
-        if not reussit(commande):
-            return "compiler"
-        neuve.replace(self.bibliotheque)
-        return ""
+        if changes == 0:
+            shutil.copy2(self.construit / cible.name, neuve)
+        else:
+            autres = [self.ici / "libquilvane_noyau.so"] if nom == "quilvane_produit" else []
+            commande = ["g++", "-shared", *lien(self.copie), f"-Wl,-soname,{cible.name}", "-Wl,-rpath,$ORIGIN",
+                        "-o", neuve, *objets, *autres]
+            if not reussit(commande):
+                return False
+        neuve.replace(cible)
+        return True
 
     def essayer(self, changement, delais):
-        for nom in PROGRAMMES[changement.piece]:
+        for nom in programmesDe(changement.fichier):
             if not lancer(self.ici / "tests" / nom, self.ici / "quilvane", self.ici / "tmp", delais[nom]):
                 return nom
         return ""
@@ -410,7 +455,7 @@ def verdictEnEntier(changement, copie, construit, delais):
     intact = fichier.read_text(encoding="utf-8")
     fichier.write_text(intact[:changement.debut] + changement.apres + intact[changement.fin:], encoding="utf-8")
     try:
-        for nom in PROGRAMMES[changement.piece]:
+        for nom in programmesDe(changement.fichier):
             if not reussit(["ninja", "-C", construit, nom, "quilvane"]):
                 return "compiler"
             if not lancer(construit / "tests" / nom, construit / "quilvane", copie / "tmp", delais[nom]):
@@ -422,12 +467,12 @@ def verdictEnEntier(changement, copie, construit, delais):
 
 def commandesDuProduit(copie, construit):
     """For each product source its compile command and object, and what it includes."""
-    prefixe = "CMakeFiles/quilvane_produit.dir/"
+    prefixes = tuple(f"CMakeFiles/{nom}.dir/" for nom in BIBLIOTHEQUES)
     commandes, dependances = {}, {}
     for entree in json.loads((construit / "compile_commands.json").read_text()):
         mots = shlex.split(entree["command"])
         objet = mots[mots.index("-o") + 1]
-        if objet.startswith(prefixe):
+        if objet.startswith(prefixes):
             source = Path(entree["file"]).relative_to(copie).as_posix()
             # A changed source is never compiled twice: no use for a cache. A
             # warning, as about && beside ||, shall not spare the tests.
@@ -440,22 +485,64 @@ def commandesDuProduit(copie, construit):
     return commandes, dependances
 
 
+def verrouiller(copie):
+    """One run at a time; the lock ends with the process."""
+    global VERROU
+    VERROU = open(copie / "verrou", "w", encoding="utf-8")
+    try:
+        fcntl.flock(VERROU, fcntl.LOCK_EX | fcntl.LOCK_NB)
+    except BlockingIOError:
+        sys.exit(f"mutation: another run is using {copie}")
+
+
+class Plaine:
+    """The tree in which one change after the other is compiled."""
+
+    def __init__(self, racine, copie):
+        self.copie, self.construit = copie, copie / "build"
+        copier(racine, copie)
+        configurer(copie, self.construit)
+        obliger(["ninja", "-C", self.construit, "quilvane", *cibles()])
+        self.commandes, self.dependances = commandesDuProduit(copie, self.construit)
+        self.delais = mesurerDelais(copie, self.construit)
+        self.atelier = Atelier(copie, self.construit, 0, self.commandes, self.dependances)
+
+    def verdict(self, changement):
+        seul = changement.fichier in PARTAGES or changement.fichier == "src/rules/preuve.h"
+        verdict = "" if seul else self.atelier.verdict(changement, self.delais)
+        if verdict == "" and changement.fichier.endswith(".h"):
+            verdict = verdictEnEntier(changement, self.copie, self.construit, self.delais)
+        return verdict
+
+
+def mesurerDelais(copie, construit):
+    """How long each test program may take."""
+    delais = {}
+    for nom in cibles():
+        debut = time.monotonic()
+        if not lancer(construit / "tests" / nom, construit / "quilvane", copie / "tmp", 600):
+            sys.exit(f"mutation: {nom} fails without any change")
+        delais[nom] = 20 + 10 * (time.monotonic() - debut)
+    return delais
+
+
 def principal():
     racine, copie = Path(sys.argv[1]), Path(sys.argv[2])
+    limiter()
+    copie.mkdir(parents=True, exist_ok=True)
+    if sys.argv[3:] and sys.argv[3] in ("--suite", "--bilan"):
+        import mutation_suite
+        if sys.argv[3] == "--suite":
+            verrouiller(copie)
+        mutation_suite.principal(racine, copie, racine / "scripts" / "mutation.etat", sys.argv[3:])
+        return
     try:
         nombre, graine = (int(v) for v in (sys.argv[3:5] + ["300", "1"][len(sys.argv[3:5]):]))
         filtre = re.compile(sys.argv[5] if len(sys.argv) > 5 else "")
     except (ValueError, re.error) as e:
         sys.exit(f"mutation: {e}; arguments are [COUNT [SEED [REGEX]]]")
     exclues = exclusions(racine / "scripts" / "mutation.exclues")
-    copie.mkdir(parents=True, exist_ok=True)
-    verrou = open(copie / "verrou", "w", encoding="utf-8")
-    try:
-        fcntl.flock(verrou, fcntl.LOCK_EX | fcntl.LOCK_NB)
-    except BlockingIOError:
-        sys.exit(f"mutation: another run is using {copie}")
-
-    limiter()
+    verrouiller(copie)
     depart = time.monotonic()
     construit = copie / "build"
     copier(racine, copie)
@@ -466,12 +553,7 @@ def principal():
     obliger(["ninja", "-C", construit, "quilvane", *cibles()])
     commandes, dependances = commandesDuProduit(copie, construit)
 
-    delais = {}
-    for nom in cibles():
-        debut = time.monotonic()
-        if not lancer(construit / "tests" / nom, construit / "quilvane", copie / "tmp", 600):
-            sys.exit(f"mutation: {nom} fails without any change")
-        delais[nom] = 20 + 10 * (time.monotonic() - debut)
+    delais = mesurerDelais(copie, construit)
 
     ateliers = queue.Queue()
     for n in range(os.cpu_count() or 1):
@@ -517,4 +599,5 @@ def principal():
     sys.exit(1 if echappes else 0)
 
 
-principal()
+if __name__ == "__main__":
+    principal()

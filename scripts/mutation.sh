@@ -3,6 +3,8 @@
 # the tests notice.
 #
 #   scripts/mutation.sh [COUNT [SEED [REGEX]]]    300 changes from seed 1
+#   scripts/mutation.sh --suite [COUNT [REGEX]]   the next 300 of all changes
+#   scripts/mutation.sh --bilan                   what all changes came to so far
 #
 # A change is one cell of a rule row, one list entry, or one operator,
 # constant or text in src/checks, src/rules, src/messages and src/driver; a
