@@ -46,6 +46,7 @@ TEST(Abat, TouteLignePasseEtEchoue) {
         .type = "ABAT",
         .genres = tous,
         .modele = notice,
+        .dependances = "C6/52:F1 C7/52:F1",
         .cas =
             {
                 {LIGNE(C1, fVerifValAut, 1), tous, {{63, "XX"}}, {1}},

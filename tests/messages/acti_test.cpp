@@ -22,6 +22,7 @@ TEST(Acti, TouteLignePasseEtEchoue) {
         .type = "ACTI",
         .genres = "CRE INV MOD",
         .modele = modele,
+        .dependances = "C2/68:C1 C2/50:E8 C5/52:F1 C6/52:F1",
         .cas =
             {
                 {LIGNE(C1, fVerifValAut, 31), "CRE INV MOD", {{63, "BE"}}, {31}},

@@ -4,7 +4,8 @@
 
 #include <algorithm>
 #include <cctype>
-#include <filesystem>
+#include <fstream>
+#include <iterator>
 #include <set>
 #include <string>
 #include <vector>
@@ -99,7 +100,12 @@ TEST(Aiguillage, ChaqueTypeASaTableSonCodeEtSonTest) {
         std::transform(test.begin(), test.end(), test.begin(),
                        [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
         test = QUILVANE_RACINE "/tests/messages/" + test + "_test.cpp";
-        EXPECT_TRUE(std::filesystem::exists(test)) << test << " is missing";
+        std::ifstream flot(test);
+        ASSERT_TRUE(flot.is_open()) << test << " is missing";
+        const std::string source{std::istreambuf_iterator<char>(flot), {}};
+        EXPECT_NE(source.find(".type = \"" + std::string(route.nomVSE) + "\""), std::string::npos)
+            << test << " does not prove the rows of " << route.nomVSE
+            << ": it lacks its call of prouverLignes";
     }
 }
 

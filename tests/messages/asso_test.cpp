@@ -88,6 +88,7 @@ TEST(Asso, TouteLignePasseEtEchoue) {
         .type = "ASSO",
         .genres = "CRE INV MOD ECQ",
         .modele = modele,
+        .dependances = "C7/52:F1 C8/149:C7 C8/52:F1",
         // clang-format off
         .cas = {
             // holding: only kind E looks at the form of its number

@@ -32,6 +32,7 @@ TEST(Dete, TouteLignePasseEtEchoue) {
         .type = "DETE",
         .genres = "CRE DEM INV MOD",
         .modele = modele,
+        .dependances = "C2/50:E8 C2/50:E8 C2/50:E8 C6/74:C7 C7/74:C6",
         .cas =
             {
                 {LIGNE(C1, fVerifValAut, 30), "CRE DEM INV MOD", {{63, "BE"}}, {30}},

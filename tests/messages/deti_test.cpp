@@ -18,6 +18,7 @@ TEST(Deti, TouteLignePasseEtEchoue) {
         .type = "DETI",
         .genres = "CRE INV MOD",
         .modele = modele,
+        .dependances = "C2/50:E8 C5/52:F1 C6/52:F1",
         .cas =
             {
                 {LIGNE(C1, fVerifValAut, 30), "CRE INV MOD", {{63, "BE"}}, {30}},

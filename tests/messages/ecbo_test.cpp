@@ -47,6 +47,7 @@ TEST(Ecbo, TouteLignePasseEtEchoue) {
         .type = "ECBO",
         .genres = tous,
         .modele = bovin,
+        .dependances = "C2/67:C1 C2/118:C1 C2/1:C1 C8/17:C7 C13/14:C12",
         .cas =
             {
                 {LIGNE(C1, fVerifValAut, 1), tous, {{63, "QQ"}}, {1}},

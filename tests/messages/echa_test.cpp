@@ -49,6 +49,8 @@ TEST(Echa, TouteLignePasseEtEchoue) {
         .type = "ECHA",
         .genres = tous,
         .modele = echange,
+        .dependances = "C2/1:C1 C6/52:F1 C11/6:C10 C11/67:C10 C11/113:C10 C14/14:C13 C14/114:C13 C16/55:C6 "
+                       "C16/2:C6 C17/55:C6 C17/68:C16 C17/2:C16 C17/115:C16 C19/50:E8 C23/52:F1 C23/137:C6",
         .cas =
             {
                 {LIGNE(C1, fVTABDIFFFR, 1), tous, {{63, "FR"}}, {1}},

@@ -28,6 +28,7 @@ TEST(Eget, TouteLignePasseEtEchoue) {
         .type = "EGET",
         .genres = "CRE INV MOD",
         .modele = modele,
+        .dependances = "C2/50:E8 C5/141:C6 C6/141:C5",
         .cas =
             {
                 {LIGNE(C1, fVerifValAut, 139), "CRE INV MOD", {{63, "BE"}}, {139}},

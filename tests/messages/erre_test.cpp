@@ -49,6 +49,7 @@ TEST(Erre, TouteLignePasseEtEchoue) {
         .type = "ERRE",
         .genres = "ECQ",
         .modele = retour,
+        .dependances = "C33/52:F1 C34/52:F1 C35/52:F1 C36/52:F1 C37/135:FICH E3",
         .cas =
             {
                 {LIGNE(C1, fVerifValAut, 85),

@@ -24,6 +24,7 @@ TEST(Erti, TouteLignePasseEtEchoue) {
         .type = "ERTI",
         .genres = "CRE INV MOD",
         .modele = modele,
+        .dependances = "C2/50:E8 C5/131:C4 C6/52:F1 C7/149:C6 C7/52:F1 C8/52:F1 C9/146:C5 C10/147:C5",
         .cas =
             {
                 {LIGNE(C1, fVerifValAut, 139), "CRE INV MOD", {{63, "BE"}}, {139}},

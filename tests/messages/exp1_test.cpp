@@ -37,6 +37,7 @@ TEST(Exp1, TouteLignePasseEtEchoue) {
         .type = "EXP1",
         .genres = tous,
         .modele = exploitation,
+        .dependances = "C2/68:C1 C2/50:E8 C6/75:C7 C7/75:C6",
         .cas =
             {
                 {LIGNE(C1, fVerifValAut, 31), tous, {{63, "BE"}}, {31}},

@@ -36,6 +36,7 @@ TEST(Exp2, TouteLignePasseEtEchoue) {
         .type = "EXP2",
         .genres = tous,
         .modele = detenteur,
+        .dependances = "C2/68:C1 C2/50:E8 C15/52:F1 C16/52:F1",
         .cas =
             {
                 {LIGNE(C1, fVerifValAut, 31), tous, {{63, "BE"}}, {31}},

@@ -33,6 +33,8 @@ TEST(Groc, TouteLignePasseEtEchoue) {
         .type = "GROC",
         .genres = "CRE DEM",
         .modele = modele,
+        .dependances = "C2/151:C1 C2/1:C1 C5/68:C1 C5/50:E8 C6/52:F1 C8/152:C1 C9/158:C7 C10/102:C6 "
+                       "C10/52:F1 C10/52:F1 C12/103:C10",
         .cas =
             {
                 // The country of origin is left blank for a foreign number.

@@ -19,6 +19,7 @@ TEST(Imoc, TouteLignePasseEtEchoue) {
         .type = "IMOC",
         .genres = "CRE INV",
         .modele = modele,
+        .dependances = "C2/50:E8 C5/68:C1 C5/50:E8 C7/52:F1",
         .cas =
             {
                 {LIGNE(C1, fVerifValAut, 159), "CRE INV", {{63, "BE"}}, {159}},

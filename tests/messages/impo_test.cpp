@@ -52,6 +52,8 @@ TEST(Impo, TouteLignePasseEtEchoue) {
         .type = "IMPO",
         .genres = tous,
         .modele = importation,
+        .dependances = "C2/50:E8 C6/52:F1 C11/6:C10 C11/113:C10 C14/14:C13 C14/114:C13 C17/68:C16 C17/2:C16 "
+                       "C17/115:C16 C19/50:E8 C24/52:F1 C24/137:C6",
         .cas =
             {
                 {LIGNE(C1, fVerifValAut, 1), tous, {{63, "BE"}}, {1}},

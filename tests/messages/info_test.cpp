@@ -20,6 +20,7 @@ TEST(Info, TouteLignePasseEtEchoue) {
         .type = "INFO",
         .genres = "DEM",
         .modele = modele,
+        .dependances = "C2/67:C1 C2/118:C1 C2/1:C1",
         .cas =
             {
                 {LIGNE(C1, fVerifValAut, 1), "DEM", {{63, "ZZ"}}, {1}},

@@ -27,6 +27,7 @@ TEST(Jalo, TouteLignePasseEtEchoue) {
         .type = "JALO",
         .genres = "CRE",
         .modele = modele,
+        .dependances = "C2/67:C1 C2/118:C1 C2/1:C1 C5/68:C1 C5/50:E8 C6/52:F1",
         .cas =
             {
                 {LIGNE(C1, fVerifValAut, 1), "CRE", {{63, "ZZ"}}, {1}},

@@ -53,6 +53,10 @@ TEST(Nais, TouteLignePasseEtEchoue) {
         .type = "NAIS",
         .genres = "CRE DEM INV MOD ECQ",
         .modele = modele,
+        .dependances =
+            "C2/67:C1 C2/118:C1 C2/1:C1 C2/50:E8 C6/52:F1 C10/7:C6 C11/67:C10 C11/118:C10 C11/6:C10 C11/7:C6 "
+            "C11/67:C6 C11/118:C6 C11/6:C6 C11/113:C10 C12/8:C6 C14/114:C13 C14/14:C13 C15/9:C6 C16/2:C6 "
+            "C17/50:E8 C17/2:C6 C17/68:C6 C17/115:C16 C26/52:F1 C26/137:C6",
         // clang-format off
         .cas = {
             // animal

@@ -33,6 +33,7 @@ TEST(Numa, TouteLignePasseEtEchoue) {
         .type = "NUMA",
         .genres = "CRE MOD ECQ",
         .modele = modele,
+        .dependances = "C2/50:E8 C5/50:E8 C6/179:C5 C7/52:F1 C9/153:C7 C10/153:C7",
         // clang-format off
         .cas = {
             // holding

@@ -41,6 +41,8 @@ TEST(Nvmn, TouteLignePasseEtEchoue) {
         .type = "NVMN",
         .genres = "CRE INV MOD ECQ",
         .modele = modele,
+        .dependances = "C2/50:E8 C6/52:F1 C11/67:C10 C11/118:C10 C11/6:C10 C14/114:C13 C14/14:C13 C17/50:E8 "
+                       "C18/52:F1 C18/137:C6",
         // clang-format off
         .cas = {
             // animal

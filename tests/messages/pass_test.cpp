@@ -27,6 +27,7 @@ TEST(Pass, TouteLignePasseEtEchoue) {
         .type = "PASS",
         .genres = "DEM INV EDI",
         .modele = modele,
+        .dependances = "C2/67:C1 C2/118:C1 C2/1:C1 C5/50:E8 C7/102:C11 C9/52:F1 C10/103:C11",
         .cas =
             {
                 {LIGNE(C1, fVerifValAut, 1), "DEM INV EDI", {{63, "ZZ"}}, {1}},

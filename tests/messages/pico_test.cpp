@@ -29,6 +29,7 @@ TEST(Pico, TouteLignePasseEtEchoue) {
         .type = "PICO",
         .genres = "CRE",
         .modele = modele,
+        .dependances = "C2/50:E8 C5/151:C4 C5/50:E8 C6/180:C5 C7/52:F1 C11/158:C8",
         .cas =
             {
                 {LIGNE(C1, fVerifValAut, 27), "CRE", {{63, "BE"}}, {27}},

@@ -21,6 +21,7 @@ TEST(Raco, TouteLignePasseEtEchoue) {
         .type = "RACO",
         .genres = "CRE INV MOD",
         .modele = modele,
+        .dependances = "C2/50:E8 C4/168:F1 C7/52:F1 C7/137:C4",
         .cas =
             {
                 {LIGNE(C1, fVerifValAut, 27), "CRE INV MOD", {{63, "BE"}}, {27}},

@@ -26,6 +26,7 @@ TEST(Rata, TouteLignePasseEtEchoue) {
         .type = "RATA",
         .genres = "CRE MOD",
         .modele = modele,
+        .dependances = "C2/50:E8 C6/68:C1 C8/68:C1 C9/52:F1 C10/52:F1",
         .cas =
             {
                 {LIGNE(C1, fVerifValAut, 139), "CRE MOD", {{63, "BE"}}, {139}},

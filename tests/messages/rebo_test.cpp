@@ -26,6 +26,7 @@ TEST(Rebo, TouteLignePasseEtEchoue) {
         .type = "REBO",
         .genres = "CRE INV MOD",
         .modele = modele,
+        .dependances = "C2/67:C1 C2/118:C1 C2/1:C1 C4/52:F1 C6/50:E8 C23/52:F1 C24/153:C4 C25/150:C4",
         .cas =
             {
                 {LIGNE(C1, fVerifValAut, 1), "CRE INV MOD", {{63, "ZZ"}}, {1}},

@@ -34,6 +34,8 @@ TEST(Sort, TouteLignePasseEtEchoue) {
         .type = "SORT",
         .genres = "CRE INV MOD ECQ",
         .modele = modele,
+        .dependances =
+            "C2/67:C1 C2/118:C1 C2/1:C1 C4/52:F1 C5/23:C4 C5/23:E5 C7/50:E8 C11/52:F1 C12/52:F1 C12/137:C4",
         // clang-format off
         .cas = {
             // animal

@@ -3,11 +3,13 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdint>
 #include <set>
 #include <sstream>
 
 #include "messages/aiguillage.h"
 #include "support/passage.h"
+#include "vocabulaire/store.h"
 
 namespace essai {
 
@@ -55,7 +57,38 @@ int rangDe(const std::string& type, const sAiguillage& route, const nomDeLigne& 
     return nombre == 1 ? trouve : -1;
 }
 
+/** Whether `texte` lies in the slots: then `nom` is their letter with the number of
+ *  the slot, or "?" when it is not the start of one. */
+template <int N>
+bool dansSlots(const valeurVSE (&slots)[N], const char* texte, const char* lettre, std::string& nom) {
+    const auto adresse = reinterpret_cast<std::uintptr_t>(texte);
+    const auto premiere = reinterpret_cast<std::uintptr_t>(slots);
+    if (adresse < premiere || adresse >= premiere + sizeof slots) return false;
+    const std::uintptr_t ecart = adresse - premiere;
+    nom = lettre + (ecart % sizeof(valeurVSE) == 0 ? std::to_string(ecart / sizeof(valeurVSE) + 1) : "?");
+    return true;
+}
+
+/** "C1", "F1", "FICH E3": the field that a dependency is the slot of. */
+std::string champDe(const char* dependance) {
+    std::string nom;
+    if (dansSlots(valEnteteVSE, dependance, "E", nom) || dansSlots(valCorpsVSE, dependance, "C", nom) ||
+        dansSlots(valFinVSE, dependance, "F", nom) || dansSlots(valFichEnteteVSE, dependance, "FICH E", nom))
+        return nom;
+    return "?";
+}
+
 }  // namespace
+
+std::string dependancesDe(const sCorps* table, int lignes, char lettre) {
+    std::string r;
+    for (const sCorps* l = table; l != table + lignes; ++l) {
+        if (l->dependance == aucune) continue;
+        r += (r.empty() ? "" : " ") + (lettre + std::to_string(l->numChamp + 1)) + "/" +
+             std::to_string(l->noErr) + ":" + champDe(l->dependance);
+    }
+    return r;
+}
 
 std::vector<int> codesDe(const std::string& record, const std::string& emetteur) {
     passage p;
@@ -72,6 +105,8 @@ void prouverLignes(const preuveType& p) {
     for (const std::string& genre : mots(p.genres))
         EXPECT_EQ(codesDe(p.modele(genre), p.emetteur), std::vector<int>{})
             << p.type << " " << genre << " model";
+
+    EXPECT_EQ(dependancesDe(table, lignes, 'C'), p.dependances) << p.type << ": the dependencies of its rows";
 
     std::set<std::pair<int, std::string>> couvertes;
     for (const casLigne& c : p.cas) {

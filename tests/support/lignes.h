@@ -48,6 +48,7 @@ struct preuveType {
     std::string type;                                       // message type, header E6
     std::string genres;                                     // kinds that have a correct record
     std::function<std::string(const std::string&)> modele;  // correct record of a kind
+    std::string dependances;                                // of its rows, as `dependancesDe` tells them
     std::vector<casLigne> cas;
     std::vector<ligneSansEchec> sansEchec = {};
     std::string emetteur = "089ARS  ";  // emitter of the file
@@ -57,10 +58,16 @@ struct preuveType {
  *  record of emitter `emetteur`, in a run of its own. */
 std::vector<int> codesDe(const std::string& record, const std::string& emetteur = "089ARS  ");
 
+/** The rows of a table that depend on another field, in order: field, error and
+ *  the field they depend on, "C2/68:C1 C5/52:F1". `lettre` is that of the table's
+ *  fields. (A check that ignores its dependency is given it too.) */
+std::string dependancesDe(const quilvane::sCorps* table, int lignes, char lettre);
+
 /**
  * Checks the whole proof: every kind's correct record has no error; every case
  * gives exactly its codes and names its row's error; every row with a check has
- * a case or a reason for every kind that runs it. Reports through GoogleTest.
+ * a case or a reason for every kind that runs it; rows depend on the fields named
+ * and on no other. Reports through GoogleTest.
  */
 void prouverLignes(const preuveType& preuve);
 

@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <cctype>
-#include <cstdint>
 #include <cstring>
 #include <map>
 #include <set>
@@ -23,6 +22,7 @@
 #include "messages/aiguillage.h"
 #include "rules/entete.h"
 #include "rules/preuve.h"
+#include "support/lignes.h"
 #include "vocabulaire/regle.h"
 #include "vocabulaire/store.h"
 
@@ -92,20 +92,6 @@ std::vector<const sCorps*> emplacements(const sCorps* lignes, int longueur) {
 }
 
 int largeur(const sCorps& champ) { return champ.fin - champ.debut + 1; }
-
-/** Whether `texte` lies in the slots; its slot when it is the start of one. */
-struct lieu {
-    bool dedans = false;
-    int emplacement = -1;
-};
-template <int N>
-lieu lieuDe(const valeurVSE (&slots)[N], const char* texte) {
-    const auto adresse = reinterpret_cast<std::uintptr_t>(texte);
-    const auto premiere = reinterpret_cast<std::uintptr_t>(slots);
-    if (adresse < premiere || adresse >= premiere + sizeof slots) return {};
-    const std::uintptr_t ecart = adresse - premiere;
-    return {true, ecart % sizeof(valeurVSE) == 0 ? static_cast<int>(ecart / sizeof(valeurVSE)) : -1};
-}
 
 }  // namespace
 
@@ -363,68 +349,12 @@ TEST(Tables, SeuleLaLigneViergeDuPiedEstSupplementaireSansVerification) {
     EXPECT_EQ(vierges, std::vector<std::string>{"tFin F2"});
 }
 
-TEST(Tables, ChaqueLigneDependDeSonChamp) {
-    // Field, error and the field it depends on; the rows that are not named
-    // depend on none. (A check that ignores its dependency is given it too.) A
-    // table that is not named is proved by its type's own test alone.
-    // clang-format off
-    const std::map<std::string, std::string> ATTENDUES = {
-        {"tEntete", "E3/95:E6 E4/96:E6 E6/86:E5 E8/87:E6 E9/89:E6 E10/88:E6 E12/97:E6 E13/98:E6"},
-        {"tFin", "F3/93:E6"},
-        {"tFich", ""},
-        {"tAbat", "C6/52:F1 C7/52:F1"},
-        {"tActi", "C2/68:C1 C2/50:E8 C5/52:F1 C6/52:F1"},
-        {"tAsso", "C7/52:F1 C8/149:C7 C8/52:F1"},
-        {"tDete", "C2/50:E8 C2/50:E8 C2/50:E8 C6/74:C7 C7/74:C6"},
-        {"tDeti", "C2/50:E8 C5/52:F1 C6/52:F1"},
-        {"tEcbo", "C2/67:C1 C2/118:C1 C2/1:C1 C8/17:C7 C13/14:C12"},
-        {"tEcha", "C2/1:C1 C6/52:F1 C11/6:C10 C11/67:C10 C11/113:C10 C14/14:C13 C14/114:C13 C16/55:C6 C16/2:C6 C17/55:C6 C17/68:C16 C17/2:C16 C17/115:C16 C19/50:E8 C23/52:F1 C23/137:C6"},
-        {"tEget", "C2/50:E8 C5/141:C6 C6/141:C5"},
-        {"tEntr", "C2/67:C1 C2/118:C1 C2/1:C1 C4/52:F1 C5/23:C4 C5/23:E5 C7/50:E8 C11/52:F1 C13/52:F1 C13/137:C4"},
-        {"tErre", "C33/52:F1 C34/52:F1 C35/52:F1 C36/52:F1 C37/135:FICH E3"},
-        {"tErti", "C2/50:E8 C5/131:C4 C6/52:F1 C7/149:C6 C7/52:F1 C8/52:F1 C9/146:C5 C10/147:C5"},
-        {"tExp1", "C2/68:C1 C2/50:E8 C6/75:C7 C7/75:C6"},
-        {"tExp2", "C2/68:C1 C2/50:E8 C15/52:F1 C16/52:F1"},
-        {"tGroc", "C2/151:C1 C2/1:C1 C5/68:C1 C5/50:E8 C6/52:F1 C8/152:C1 C9/158:C7 C10/102:C6 C10/52:F1 C10/52:F1 C12/103:C10"},
-        {"tImoc", "C2/50:E8 C5/68:C1 C5/50:E8 C7/52:F1"},
-        {"tImpo", "C2/50:E8 C6/52:F1 C11/6:C10 C11/113:C10 C14/14:C13 C14/114:C13 C17/68:C16 C17/2:C16 C17/115:C16 C19/50:E8 C24/52:F1 C24/137:C6"},
-        {"tInfo", "C2/67:C1 C2/118:C1 C2/1:C1"},
-        {"tJalo", "C2/67:C1 C2/118:C1 C2/1:C1 C5/68:C1 C5/50:E8 C6/52:F1"},
-        {"tNais", "C2/67:C1 C2/118:C1 C2/1:C1 C2/50:E8 C6/52:F1 C10/7:C6 C11/67:C10 C11/118:C10 C11/6:C10 C11/7:C6 C11/67:C6 C11/118:C6 C11/6:C6 C11/113:C10 C12/8:C6 C14/114:C13 C14/14:C13 C15/9:C6 C16/2:C6 C17/50:E8 C17/2:C6 C17/68:C6 C17/115:C16 C26/52:F1 C26/137:C6"},
-        {"tNuma", "C2/50:E8 C5/50:E8 C6/179:C5 C7/52:F1 C9/153:C7 C10/153:C7"},
-        {"tNvmn", "C2/50:E8 C6/52:F1 C11/67:C10 C11/118:C10 C11/6:C10 C14/114:C13 C14/14:C13 C17/50:E8 C18/52:F1 C18/137:C6"},
-        {"tPass", "C2/67:C1 C2/118:C1 C2/1:C1 C5/50:E8 C7/102:C11 C9/52:F1 C10/103:C11"},
-        {"tPico", "C2/50:E8 C5/151:C4 C5/50:E8 C6/180:C5 C7/52:F1 C11/158:C8"},
-        {"tRaco", "C2/50:E8 C4/168:F1 C7/52:F1 C7/137:C4"},
-        {"tRata", "C2/50:E8 C6/68:C1 C8/68:C1 C9/52:F1 C10/52:F1"},
-        {"tRebo", "C2/67:C1 C2/118:C1 C2/1:C1 C4/52:F1 C6/50:E8 C23/52:F1 C24/153:C4 C25/150:C4"},
-        {"tSort", "C2/67:C1 C2/118:C1 C2/1:C1 C4/52:F1 C5/23:C4 C5/23:E5 C7/50:E8 C11/52:F1 C12/52:F1 C12/137:C4"},
-    };
-    // clang-format on
-    const auto champDe = [](const char* dependance) -> std::string {
-        if (const lieu l = lieuDe(valEnteteVSE, dependance); l.dedans)
-            return "E" + std::to_string(l.emplacement + 1);
-        if (const lieu l = lieuDe(valCorpsVSE, dependance); l.dedans)
-            return "C" + std::to_string(l.emplacement + 1);
-        if (const lieu l = lieuDe(valFinVSE, dependance); l.dedans)
-            return "F" + std::to_string(l.emplacement + 1);
-        if (const lieu l = lieuDe(valFichEnteteVSE, dependance); l.dedans)
-            return "FICH E" + std::to_string(l.emplacement + 1);
-        return "?";
-    };
-    for (const tableNommee& t : tables()) {
-        const char lettre = t.part.debut == 1 ? 'E' : t.part.debut == 63 ? 'C' : 'F';
-        std::string trouvees;
-        for (int i = 0; i < t.longueur; ++i) {
-            const sCorps& ligne = t.lignes[i];
-            if (ligne.dependance == aucune) continue;
-            trouvees += (trouvees.empty() ? "" : " ") + (lettre + std::to_string(ligne.numChamp + 1)) + "/" +
-                        std::to_string(ligne.noErr) + ":" + champDe(ligne.dependance);
-        }
-        const auto attendues = ATTENDUES.find(t.nom);
-        if (attendues == ATTENDUES.end()) continue;
-        EXPECT_EQ(trouvees, attendues->second) << t.nom;
-    }
+// Those of a message type are asked by its own test (`prouverLignes`).
+TEST(Tables, EnteteEtPiedDependentDeLeursChamps) {
+    EXPECT_EQ(essai::dependancesDe(tEntete, lEntete, 'E'),
+              "E3/95:E6 E4/96:E6 E6/86:E5 E8/87:E6 E9/89:E6 E10/88:E6 E12/97:E6 E13/98:E6");
+    EXPECT_EQ(essai::dependancesDe(tFin, lFin, 'F'), "F3/93:E6");
+    EXPECT_EQ(essai::dependancesDe(tFich, lFich, 'C'), "");
 }
 
 TEST(Tables, LExploitationConcerneeEstUnPaysEtUnNumero) {
