@@ -5,6 +5,7 @@
 
 The paths of the programs come from the environment, set by CTest.
 """
+import itertools
 import os
 import pathlib
 import subprocess
@@ -46,6 +47,15 @@ def quilvane(octets):
 def exemples():
     """The example files by name: accepted and rejected, one of each message type."""
     return {p.stem: p.read_bytes() for p in sorted((RACINE / "exemples").glob("*.vse"))}
+
+
+def comparer(cas, chemin, octets, essai):
+    """The file holds these bytes. The texts are long: a difference is told by its first line."""
+    ici, la = (t.decode().splitlines(keepends=True) for t in (chemin.read_bytes(), octets))
+    for i, (a, b) in enumerate(itertools.zip_longest(ici, la, fillvalue="(nothing)"), 1):
+        if a != b:
+            cas.fail(f"{chemin.relative_to(RACINE)}, line {i}, has\n  {a.rstrip()}\nand the program writes\n  {b.rstrip()}\n"
+                     f"If that is meant: QUILVANE_ECRIRE=1 python3 {essai}, read the difference, commit it.")
 
 
 class Cas(unittest.TestCase):

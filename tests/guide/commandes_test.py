@@ -76,7 +76,7 @@ class Commandes(banc.Cas):
             chemin.parent.mkdir(exist_ok=True)
             chemin.write_bytes(lu)
         with self.subTest(nom=nom, langue=langue):
-            self.assertEqual(lu.decode(), chemin.read_bytes().decode())
+            banc.comparer(self, chemin, lu, "tests/guide/commandes_test.py")
 
     def repondre(self, nom, *mots, **options):
         for langue in "fr", "en":

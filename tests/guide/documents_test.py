@@ -21,11 +21,7 @@ class Documents(banc.Cas):
                     chemin = banc.RACINE / "doc" / f"{nom}.{langue}.md"
                     if ECRIRE:
                         chemin.write_bytes(sortie)
-                    # The text is long: a difference is told by its first line.
-                    ici, la = chemin.read_text().splitlines(), sortie.decode().splitlines()
-                    self.assertEqual(len(ici), len(la))
-                    for i, (a, b) in enumerate(zip(ici, la), 1):
-                        self.assertEqual(a, b, f"line {i}")
+                    banc.comparer(self, chemin, sortie, "tests/guide/documents_test.py")
 
     def test_forme(self):
         """Tables of Markdown have as many cells in each row; every number and type is there."""

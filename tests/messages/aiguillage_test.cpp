@@ -71,6 +71,13 @@ bool contient(const std::vector<int>& codes, int code) {
     return std::find(codes.begin(), codes.end(), code) != codes.end();
 }
 
+/** Rows of a type that have a check. */
+std::size_t lignesAvecVerif(const char* type) {
+    const sAiguillage& route = tAiguillage[aiguiller(type)];
+    return static_cast<std::size_t>(std::count_if(route.tabVerif, route.tabVerif + *route.pLenTabVerif,
+                                                  [](const sCorps& l) { return l.pfVerif != nullptr; }));
+}
+
 }  // namespace
 
 TEST(Aiguillage, LesRoutesConnuesRestent) {
@@ -174,13 +181,12 @@ TEST(Aiguillage, UnGenreRefuseDonne86DeLEnteteEtDeChaqueLigne) {
     struct cas {
         const char* type;
         const char* genre;
-        std::size_t lignes;  // rows with a check
     };
     // Above nine rows the tenth error ends the record.
-    for (const cas& c : {cas{"DETI", "DEM", 8}, cas{"ACTI", "EDI", 10}, cas{"IMOC", "MOD", 11},
-                         cas{"INFO", "CRE", 5}, cas{"RATA", "DEM", 15}, cas{"JALO", "INV", 15}}) {
+    for (const cas& c : {cas{"DETI", "DEM"}, cas{"ACTI", "EDI"}, cas{"IMOC", "MOD"}, cas{"INFO", "CRE"},
+                         cas{"RATA", "DEM"}, cas{"JALO", "INV"}}) {
         std::vector<int> codes = codesDe(vse(c.type, c.genre));
-        EXPECT_EQ(codes, std::vector<int>(std::min<std::size_t>(c.lignes + 1, 10), 86))
+        EXPECT_EQ(codes, std::vector<int>(std::min<std::size_t>(lignesAvecVerif(c.type) + 1, 10), 86))
             << c.type << " " << c.genre;
     }
     // The rows of this type skip the kind: the header alone refuses it.
@@ -194,7 +200,7 @@ TEST(Aiguillage, UneEnqueteEstVerifieeCommeUneCreation) {
     poser(record, 79, "2");
     EXPECT_EQ(codesDe(record), std::vector<int>{81});
     // A type without creation: every row with a check refuses the kind.
-    EXPECT_EQ(codesDe(vse("INFO", "ECQ")), std::vector<int>(5, 86));
+    EXPECT_EQ(codesDe(vse("INFO", "ECQ")), std::vector<int>(lignesAvecVerif("INFO"), 86));
     EXPECT_FALSE(contient(codesDe(vse("NAIS", "ECQ")), 86));
 }
 

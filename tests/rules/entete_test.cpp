@@ -354,6 +354,8 @@ TEST(Entete, ReglesDUnSeulCote) {
              {"ACTI", "", true}});
 }
 
+// What is known of a type for good; of every type its own kinds are asked in
+// messages/aiguillage_test.cpp.
 TEST(Entete, TypesPermisParGenre) {
     const struct {
         const char* typeVSE;
@@ -394,22 +396,16 @@ TEST(Entete, TypesPermisParGenre) {
         {"SOR", ""},
         {"", ""},
     };
-    int permis = 0;
     for (const auto& m : matrice) {
         const std::string genres = std::string(" ") + m.genres + " ";
         for (const char* genre : {"CRE", "DEM", "INV", "EDI", "MOD", "INF"}) {
             const bool attendu = genres.find(std::string(" ") + genre + " ") != std::string::npos;
-            permis += attendu ? 1 : 0;
             EXPECT_EQ(accepte(fVerifDepE6, genre, m.typeVSE), attendu) << genre << " " << m.typeVSE;
         }
         EXPECT_TRUE(accepte(fVerifDepE6, "ECQ", m.typeVSE)) << m.typeVSE;
         for (const char* genre : {"XXX", "cre", "CR", "CREE", "   ", ""})
             EXPECT_FALSE(accepte(fVerifDepE6, genre, m.typeVSE)) << genre << " " << m.typeVSE;
     }
-    EXPECT_EQ(permis, 24 + 5 + 20 + 1 + 19 + 1);
-    EXPECT_EQ(tE6CRE.nombre() + tE6DEM.nombre() + tE6INV.nombre() + tE6EDI.nombre() + tE6MOD.nombre() +
-                  tE6INF.nombre(),
-              permis);
     for (const char* genre : {"CRE", "DEM", "INV", "EDI", "MOD", "INF"})
         EXPECT_TRUE(accepte(fVerifDepE6, genre, "NORMABEV")) << genre;
 }
