@@ -163,7 +163,8 @@ std::string jour(const liste& date) {
 
 TEST(Verifs, ChaqueVerifDUneRegleAUneEntree) {
     for (const regle& r : essai::reglesAvecVerif())
-        EXPECT_NE(verifDe(r.ligne->pfVerif), nullptr) << r.nom() << ", error " << r.ligne->noErr;
+        EXPECT_NE(verifDe(r.ligne->pfVerif), nullptr)
+            << r.nom() << ", error " << r.ligne->noErr << ": its check has no words in catalogue/verifs.def";
 }
 
 TEST(Verifs, ChaqueEntreeSertAUneRegle) {

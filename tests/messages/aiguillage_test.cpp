@@ -154,7 +154,9 @@ TEST(Aiguillage, LEnteteAdmetLesGenresDuType) {
         const std::string genres = modele == nullptr ? "" : modele->genres;
         for (const char* genre : {"CRE", "DEM", "INV", "EDI", "MOD", "INF"}) {
             const bool permis = genres.find(genre) != std::string::npos;
-            EXPECT_EQ(accepte(fVerifDepE6, genre, r.nomVSE), permis) << r.nomVSE << " " << genre;
+            EXPECT_EQ(accepte(fVerifDepE6, genre, r.nomVSE), permis)
+                << r.nomVSE << " " << genre << ": catalogue/exemples.cpp and tE6" << genre
+                << " of checks/valautorise.h differ";
         }
         EXPECT_TRUE(accepte(fVerifDepE6, "ECQ", r.nomVSE)) << r.nomVSE;
     }
