@@ -74,7 +74,7 @@ int expliquerNumero(const sDemandeLue& d) {
         table = tableNommee(enCapitales(d.arguments[1]));
         if (table == nullptr) return plaindre(T_TYPE_INCONNU, d.langue, {visible(d.arguments[1])});
     }
-    if (d.arguments.size() > 2) {
+    if (table != nullptr && d.arguments.size() > 2) {
         champ = enCapitales(d.arguments[2]);
         bool connu = false;
         for (int i = 0; i < table->nombre; ++i)
@@ -119,10 +119,10 @@ int catalogue(const sDemandeLue& d) {
 
 int donnerExemple(const sDemandeLue& d) {
     const sTable* const t = tableNommee(enCapitales(d.arguments[0]));
-    const auto permis = t != nullptr ? genresDe(t->nom) : std::vector<std::string_view>();
-    if (permis.empty()) return plaindre(T_TYPE_INCONNU, d.langue, {visible(d.arguments[0])});
+    if (t == nullptr || genresDe(t->nom).empty())
+        return plaindre(T_TYPE_INCONNU, d.langue, {visible(d.arguments[0])});
     const std::string genre =
-        d.arguments.size() > 1 ? enCapitales(d.arguments[1]) : std::string(permis.front());
+        d.arguments.size() > 1 ? enCapitales(d.arguments[1]) : std::string(genresDe(t->nom).front());
     const std::string fichier = exemple(t->nom, genre);
     if (fichier.empty())
         return plaindre(T_GENRE_INCONNU, d.langue, {t->nom, visible(genre), genresEnLigne(*t)});

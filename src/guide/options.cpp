@@ -330,7 +330,7 @@ eLecture lireLigne(int argc, char* argv[], sDemandeLue& d) {
     bool aideVoulue = false;
     bool versionVoulue = false;
     opterr = 0;
-    for (int lettre;
+    for (int lettre = 0;
          (lettre = getopt_long(argc, argv, G.courtes.c_str(), G.longues.data(), nullptr)) != -1;) {
         const sOption* const o = optionDe(lettre);
         if (o == nullptr)

@@ -37,7 +37,7 @@ sResume verifierUn(const sDemandeLue& d, const std::string& nom, sRapport& rappo
     }
     commencerFichier(rapport, nom);
     const sDemande demande = {.langue = d.langue, .tout = d.tout};
-    const sResume r = examiner(fichier.lecture, nom, demande, renduDe(rapport));
+    sResume r = examiner(fichier.lecture, nom, demande, renduDe(rapport));
     terminerFichier(rapport, r);
     fermer(fichier);
     return r;

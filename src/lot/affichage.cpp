@@ -4,6 +4,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <cmath>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -44,7 +45,7 @@ std::string decimal(double x) {
 
 /** "M:SS", or "H:MM:SS". */
 std::string duree(double secondes) {
-    const auto s = static_cast<long long>(std::min(secondes, 1e9) + 0.5);
+    const auto s = std::llround(std::min(secondes, 1e9));
     char c[64];
     if (s < 3600)
         std::snprintf(c, sizeof c, "%lld:%02lld", s / 60, s % 60);

@@ -98,7 +98,8 @@ bool archiver(const depot& d, const casier& c, const std::string& nom, std::stri
             return echouer(f, ETAPE_ARCHIVER, nom);
         }
         if (!synchroniser(dossier.fd)) return echouer(f, ETAPE_ARCHIVER, nom);
-        chemin = std::string(LIEUX[ARCHIVE]) + "/" + jour + "/" + trouve;
+        chemin = LIEUX[ARCHIVE];
+        chemin.append("/").append(jour).append("/").append(trouve);
         return true;
     }
     return echouer(f, ETAPE_ARCHIVER, nom);

@@ -16,20 +16,22 @@ bool ouvrirDepot(const std::string& chemin, depot& d, faute& f) {
     d.racine = descripteur(open(chemin.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     struct stat racine = {};
     if (!d.racine.ouvert() || fstat(d.racine.fd, &racine) != 0) return echouer(f, ETAPE_OUVRIR_DEPOT, chemin);
+    const auto raterDans = [&](const std::string& nom) {
+        return echouer(f, ETAPE_OUVRIR_DEPOT, chemin + "/" + nom);
+    };
     bool fait = false;
     for (int i = 0; i < NB_LIEUX; ++i) {
         const std::string nom = LIEUX[i];
         if (mkdirat(d.racine.fd, nom.c_str(), 0777) == 0)
             fait = true;
         else if (errno != EEXIST)
-            return echouer(f, ETAPE_OUVRIR_DEPOT, chemin + "/" + nom);
+            return raterDans(nom);
         d.lieux[i] = ouvrirDossier(d.racine.fd, nom);
         struct stat s = {};
-        if (!d.lieux[i].ouvert() || fstat(d.lieux[i].fd, &s) != 0)
-            return echouer(f, ETAPE_OUVRIR_DEPOT, chemin + "/" + nom);
+        if (!d.lieux[i].ouvert() || fstat(d.lieux[i].fd, &s) != 0) return raterDans(nom);
         if (s.st_dev != racine.st_dev) {
             errno = EXDEV;
-            return echouer(f, ETAPE_OUVRIR_DEPOT, chemin + "/" + nom);
+            return raterDans(nom);
         }
     }
     if (fait && !synchroniser(d.racine.fd)) return echouer(f, ETAPE_OUVRIR_DEPOT, chemin);

@@ -25,6 +25,7 @@ constexpr int TRANCHE = 100;  // milliseconds between two looks at `arret`
 
 std::vector<char*> pointeurs(std::vector<std::string>& textes) {
     std::vector<char*> r;
+    r.reserve(textes.size() + 1);
     for (std::string& t : textes)
         r.push_back(t.data());
     r.push_back(nullptr);
@@ -124,7 +125,7 @@ std::string trouverProgramme(const std::string& nom) {
     std::string_view reste = path != nullptr ? path : "";
     while (!reste.empty()) {
         const std::size_t fin = std::min(reste.find(':'), reste.size());
-        const std::string chemin = std::string(reste.substr(0, fin)) + "/" + nom;
+        std::string chemin = std::string(reste.substr(0, fin)) + "/" + nom;
         // Only full paths: the program is run from another folder.
         if (chemin[0] == '/' && chemin.size() > nom.size() + 1 && estProgramme(chemin)) return chemin;
         reste.remove_prefix(std::min(fin + 1, reste.size()));

@@ -176,7 +176,7 @@ bool suitDuCadrage(const sErreurVue& e, const sErreurVue& cause) {
     constexpr int ERR_COURT = 108;
     if (e.debut == 0 || e.origine != ORIGINE_TABLE) return false;
     if (cause.numero == ERR_CARACTERE) return e.debut <= cause.colonne && cause.colonne <= e.fin;
-    return cause.numero == ERR_COURT && e.valeur.size() < static_cast<std::size_t>(e.fin - e.debut + 1);
+    return cause.numero == ERR_COURT && static_cast<int>(e.valeur.size()) <= e.fin - e.debut;
 }
 
 /** Whether `e` probably follows from `cause`, which was found before it or

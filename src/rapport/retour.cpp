@@ -60,7 +60,8 @@ sRetour lireErreurs(lecteur& source, long long& faux) {
     static ligneLue ligne;
     bool premiere = true;
     faux = 0;
-    for (cverseFgetsRet fin; (fin = cverseFgets(source, ligne)) != CVERSE_EOF && fin != CVERSE_CTRLZ;) {
+    for (cverseFgetsRet fin = CVERSE_EOF;
+         (fin = cverseFgets(source, ligne)) != CVERSE_EOF && fin != CVERSE_CTRLZ;) {
         const std::string_view t(
             ligne.texte,
             static_cast<std::size_t>(ligne.longueur < LARGEUR_VSE ? ligne.longueur : LARGEUR_VSE));
