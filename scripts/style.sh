@@ -6,13 +6,13 @@
 #                             committed yet
 #   scripts/style.sh tout     clang-tidy over every source
 #
-# A changed header is linted through the sources that include it by name. Linted
-# are the rooms of `quilvane` itself; guide, reports, runner and module are formatted only.
+# A changed header is linted through the sources that include it by name. Of
+# src/module nothing is linted: it is built by the toolchain for WebAssembly alone.
 set -euo pipefail
 . "$(dirname "$0")/paquets.sh"
 cd "$racine"
 [ $# -eq 0 ] || [ "$*" = tout ] || arreter "'$*' is not known; the only word is: tout"
-exiger g++ cmake ninja-build clang-format clang-tidy git
+exiger g++ cmake ninja-build rapidjson-dev nettle-dev clang-format clang-tidy git
 
 git rev-parse --git-dir >/dev/null 2>&1 || { echo "Style: no git checkout, so nothing is compared."; exit 0; }
 
@@ -20,10 +20,9 @@ mapfile -t sources < <(git ls-files '*.cpp' '*.h')
 clang-format --dry-run --Werror "${sources[@]}" ||
     arreter "the format differs; mend it with: clang-format -i FILE..."
 
-mapfile -t unites < <(git ls-files 'src/*.cpp' | grep -vE '^src/(guide|rapport|page|module|lot|catalogue)/')
+mapfile -t unites < <(git ls-files 'src/*.cpp' ':!src/module')
 if [ $# -eq 0 ] && git rev-parse --verify --quiet HEAD~1 >/dev/null; then
-    mapfile -t changes < <(git diff --name-only --diff-filter=d HEAD~1 -- src |
-        grep -vE '^src/(guide|rapport|page|module|lot|catalogue)/')
+    mapfile -t changes < <(git diff --name-only --diff-filter=d HEAD~1 -- src ':!src/module')
     retenues=()
     for fichier in "${changes[@]}"; do
         case $fichier in
