@@ -39,8 +39,11 @@ def passer(programme, octets, options, milieu):
     """Status, console and all files that a run leaves."""
     with tempfile.TemporaryDirectory(prefix="quilvane-comparer-") as dossier:
         (Path(dossier) / "in").write_bytes(octets)
-        r = subprocess.run(["./quilvane", *options, "in", "out", "log"], cwd=dossier, env=milieu,
-                           executable=programme, capture_output=True, timeout=60)
+        try:
+            r = subprocess.run(["./quilvane", *options, "in", "out", "log"], cwd=dossier, env=milieu,
+                               executable=programme, capture_output=True, timeout=60)
+        except subprocess.TimeoutExpired:
+            return "no end after 60 seconds", b"", b"", {}
         fichiers = {p.name: p.read_bytes() for p in sorted(Path(dossier).iterdir())}
         return r.returncode, r.stdout, r.stderr, fichiers
 
