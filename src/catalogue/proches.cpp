@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <string>
 #include <unordered_map>
 #include <vector>
 
@@ -79,12 +80,19 @@ std::uint64_t empreinte(std::string_view texte) {
     return r;
 }
 
-/** The prints of a list's entries, made at the first look. */
-const std::vector<std::uint64_t>& empreintesDe(const sListe& liste) {
-    static std::unordered_map<const tValAutorise*, std::vector<std::uint64_t>> faites;
-    std::vector<std::uint64_t>& r = faites[liste.entrees];
-    for (int i = static_cast<int>(r.size()) * liste.colonnes; i < liste.nombre; i += liste.colonnes)
-        r.push_back(empreinte(liste.entrees[i].valeur));
+/** What is kept of a list from look to look. */
+struct sVoisinage {
+    std::vector<std::uint64_t> empreintes;              // of its entries
+    std::unordered_map<std::string, sProches> trouves;  // by value: a file repeats its mistakes
+};
+
+/** That of a list, made at the first look. */
+sVoisinage& voisinageDe(const sListe& liste) {
+    static std::unordered_map<const tValAutorise*, sVoisinage> faits;
+    sVoisinage& r = faits[liste.entrees];
+    for (int i = static_cast<int>(r.empreintes.size()) * liste.colonnes; i < liste.nombre;
+         i += liste.colonnes)
+        r.empreintes.push_back(empreinte(liste.entrees[i].valeur));
     return r;
 }
 
@@ -96,14 +104,11 @@ constexpr bool tropLoin(std::uint64_t a, std::uint64_t b) {
     return d != 0;
 }
 
-}  // namespace
-
-sProches prochesDe(std::string_view valeur, const sListe& liste) {
+/** The entries of a list that are near a value that is not blank. */
+sProches chercher(std::string_view valeur, const sListe& liste, const std::uint64_t* deEntree) {
     sProches proches = {};
-    if (sansBlancs(valeur).empty()) return proches;
     eEcart ecarts[MAX_PROCHES] = {};
     const std::uint64_t deValeur = empreinte(valeur);
-    const std::uint64_t* deEntree = empreintesDe(liste).data();
     for (int i = 0; i < liste.nombre; i += liste.colonnes) {
         if (tropLoin(deValeur, *deEntree++)) continue;
         const std::string_view entree = liste.entrees[i].valeur;
@@ -124,6 +129,19 @@ sProches prochesDe(std::string_view valeur, const sListe& liste) {
         ecarts[place] = e;
     }
     return proches;
+}
+
+}  // namespace
+
+sProches prochesDe(std::string_view valeur, const sListe& liste) {
+    constexpr std::size_t MAX_TROUVES = 256;  // memory does not grow with the file
+    if (sansBlancs(valeur).empty()) return {};
+    sVoisinage& voisinage = voisinageDe(liste);
+    const std::string cle(valeur);
+    const auto deja = voisinage.trouves.find(cle);
+    if (deja != voisinage.trouves.end()) return deja->second;
+    if (voisinage.trouves.size() == MAX_TROUVES) voisinage.trouves.clear();
+    return voisinage.trouves[cle] = chercher(valeur, liste, voisinage.empreintes.data());
 }
 
 }  // namespace quilvane

@@ -101,3 +101,18 @@ TEST(Proches, SurLesVraiesListes) {
             EXPECT_LE(p.nombre, MAX_PROCHES);
         }
 }
+
+TEST(Proches, UneValeurRepeteeDonneLaMemeReponse) {
+    const sListe formes = listeDe(FORMES);
+    const std::vector<std::string> attendus = proches("SRAL", formes);
+    EXPECT_EQ(attendus, std::vector<std::string>{"SARL"});
+    // More values than are remembered, among them the first ones again.
+    for (int i = 0; i < 1000; ++i) {
+        const std::string autre =
+            std::string(2, static_cast<char>('A' + i % 26)) + std::to_string(10 + i / 26);
+        const auto premiere = proches(autre, formes);
+        EXPECT_EQ(proches(autre, formes), premiere) << autre;
+        EXPECT_EQ(proches("SRAL", formes), attendus) << autre;
+    }
+    EXPECT_EQ(proches("SA1 ", formes), std::vector<std::string>{"SA  "});
+}
