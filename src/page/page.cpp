@@ -38,7 +38,15 @@ std::uint32_t point(std::string_view sequence) {
 std::string dansLaPage(std::string_view json) {
     std::string sortie;
     sortie.reserve(json.size() + json.size() / 8);
+    // Most of it is copied as it stands, up to the next byte that may not be.
+    const auto telQuel = [](char c) { return static_cast<unsigned char>(c) < 0x80 && c != '<'; };
     for (std::size_t i = 0; i < json.size();) {
+        std::size_t fin = i;
+        while (fin < json.size() && telQuel(json[fin]))
+            ++fin;
+        sortie += json.substr(i, fin - i);
+        i = fin;
+        if (i == json.size()) break;
         std::string_view sequence = json.substr(i, longueurUTF8(static_cast<unsigned char>(json[i])));
         const std::uint32_t p = sequence.size() > 1 ? point(sequence) : 0;
         if (p > 0xFFFF) {

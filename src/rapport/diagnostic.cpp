@@ -142,10 +142,11 @@ bool avantPonctuation(std::string_view t, std::size_t i) {
 std::size_t finDuMot(std::string_view t) {
     int guillemets = 0;
     for (std::size_t i = 0; i < t.size(); ++i) {
+        if (t[i] == ' ' && guillemets <= 0 && !avantPonctuation(t, i)) return i;
+        if (static_cast<unsigned char>(t[i]) < 0x80) continue;
         const std::string_view reste = t.substr(i);
         if (reste.starts_with("«") || reste.starts_with("“")) ++guillemets;
         if (reste.starts_with("»") || reste.starts_with("”")) --guillemets;
-        if (t[i] == ' ' && guillemets <= 0 && !avantPonctuation(t, i)) return i;
     }
     return t.find(' ') == std::string_view::npos || guillemets <= 0 ? std::string_view::npos : t.find(' ');
 }
@@ -162,16 +163,20 @@ const sStyles& styles(bool couleur) {
 std::string enPages(std::string_view texte, std::string_view marge, std::size_t largeur) {
     std::string t;
     std::string ligne;
+    std::size_t place = 0;  // characters of the line
     const auto poser = [&] {
         t += marge;
         t += ligne;
         t += '\n';
         ligne.clear();
+        place = 0;
     };
     while (!texte.empty()) {
         const std::size_t n = finDuMot(texte);
         const std::string_view mot = texte.substr(0, n);
-        if (!ligne.empty() && caracteres(ligne) + 1 + caracteres(mot) > largeur - marge.size()) poser();
+        const std::size_t duMot = caracteres(mot);
+        if (!ligne.empty() && place + 1 + duMot > largeur - marge.size()) poser();
+        place += duMot + (ligne.empty() ? 0 : 1);
         if (!ligne.empty()) ligne += ' ';
         ligne += mot;
         texte.remove_prefix(n == std::string_view::npos ? texte.size() : n + 1);

@@ -1,11 +1,17 @@
 #include "rapport/mots.h"
 
+#include <algorithm>
+
 namespace quilvane {
 
 std::string remplir(const texte& modele, eLangue langue, std::initializer_list<std::string_view> arguments) {
     const std::string_view m = modele.en_langue(langue);
     std::string r;
     for (std::size_t i = 0; i < m.size(); ++i) {
+        const std::size_t suivant = std::min(m.find('{', i), m.size());
+        r += m.substr(i, suivant - i);
+        i = suivant;
+        if (i == m.size()) break;
         const std::size_t rang = i + 2 < m.size() && m[i] == '{' && m[i + 2] == '}'
                                      ? static_cast<std::size_t>(m[i + 1] - '0')
                                      : arguments.size();
