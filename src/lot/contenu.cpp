@@ -40,6 +40,14 @@ void ajouterOctet(mesureur& m, char c) {
     }
 }
 
+/** How many bytes at the beginning only make a line longer: most of a file. */
+std::size_t debutOrdinaire(std::string_view octets) {
+    std::size_t n = 0;
+    while (n < octets.size() && static_cast<unsigned char>(octets[n]) > CTRL_Z)
+        ++n;
+    return n;
+}
+
 std::vector<std::string_view> lignes(std::string_view octets) {
     std::vector<std::string_view> r;
     while (!octets.empty()) {
@@ -100,8 +108,15 @@ void commencer(mesureur& m) {
 void ajouter(mesureur& m, std::string_view octets) {
     m.m.taille += static_cast<long long>(octets.size());
     ajouter(m.e, octets);
-    for (const char c : octets)
-        if (!m.finDeFichier) ajouterOctet(m, c);
+    for (std::size_t i = 0; i < octets.size() && !m.finDeFichier;) {
+        if (!m.retour) {
+            const std::size_t n = debutOrdinaire(octets.substr(i));
+            if (!m.texteFini) m.longueur += static_cast<long>(n);
+            i += n;
+            if (i == octets.size()) break;
+        }
+        ajouterOctet(m, octets[i++]);
+    }
 }
 
 mesure terminer(mesureur& m) {

@@ -5,6 +5,7 @@
 #include <stdio.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 
 #include "lot/textes.h"
@@ -61,7 +62,9 @@ bool ecrireTout(int fd, std::string_view octets) {
 bool lireFichier(int dossier, const std::string& nom, std::string& octets, std::size_t limite) {
     octets.clear();
     const descripteur d = ouvrirFichier(dossier, nom);
-    if (!d.ouvert()) return false;
+    struct stat s = {};
+    if (!d.ouvert() || fstat(d.fd, &s) != 0) return false;
+    octets.reserve(std::min(static_cast<std::size_t>(s.st_size), limite));
     char bloc[65536];
     while (octets.size() < limite) {
         const ssize_t n = read(d.fd, bloc, sizeof bloc);
