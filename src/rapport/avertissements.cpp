@@ -16,6 +16,13 @@ constexpr texte T_BOM = {
     "premier enregistrement. Enregistrez le fichier en ASCII ou en « UTF-8 sans BOM ».",
     "The file begins with a byte order mark (BOM): three invisible bytes that shift the first record. Save "
     "the file as ASCII or as “UTF-8 without BOM”."};
+constexpr texte T_UTF16 = {
+    "Le fichier est écrit en UTF-16 : deux octets par caractère, dont un octet nul. Enregistrez le fichier "
+    "en "
+    "ASCII ou en « UTF-8 sans BOM ».",
+    "The file is written in UTF-16: two bytes for each character, one of them zero. Save the file as ASCII "
+    "or "
+    "as “UTF-8 without BOM”."};
 constexpr texte T_UTF8 = {
     "Cet enregistrement contient une lettre accentuée écrite en UTF-8 (deux octets ou plus) : elle n'est pas "
     "admise et décale toutes les colonnes qui suivent. Écrivez la lettre sans accent.",
@@ -97,6 +104,14 @@ bool sequenceUtf8(std::string_view t, std::size_t i) {
     return suite > 0;
 }
 
+/** Whether a file that begins like this is written in UTF-16: with the mark of
+ *  its byte order, or with a zero beside each character. */
+bool debutUtf16(std::string_view t) {
+    if (t.starts_with("\xFF\xFE") || t.starts_with("\xFE\xFF")) return true;
+    const auto nul = [t](std::size_t i) { return t[i] == '\0'; };
+    return t.size() >= 4 && nul(0) != nul(1) && nul(0) == nul(2) && nul(1) == nul(3);
+}
+
 /** What the forbidden byte at `i` most likely is. */
 eFauteDeLigne fauteDe(std::string_view t, std::size_t i) {
     if (sequenceUtf8(t, i)) return FAUTE_UTF8;
@@ -112,6 +127,7 @@ void avertirLigne(sAvertisseur& a, const ligneLue& ligne) {
     const long long retenus = ligne.longueur < LARGEUR_VSE ? ligne.longueur : LARGEUR_VSE;
     const std::string_view t(ligne.texte, static_cast<std::size_t>(retenus));
     if (ligne.debut == 0 && t.starts_with(BOM)) return dire(a, 1, 1, "bom", T_BOM.en_langue(a.langue));
+    if (ligne.debut == 0 && debutUtf16(t)) return dire(a, 1, 1, "utf16", T_UTF16.en_langue(a.langue));
     const auto i = static_cast<std::size_t>(ligne.colonneInterdite - 1);
     compter(a, fauteDe(t, i), ligne, ligne.colonneInterdite, t.substr(i, 1));
 }

@@ -40,6 +40,7 @@ constexpr texte T_REFUSE = {"REFUSÉ", "REFUSED"};
 constexpr texte T_ARRET = {"NON TRAITÉ", "NOT PROCESSED"};
 constexpr texte T_PAR_NUMERO = {"Erreurs par numéro :", "Errors by number:"};
 constexpr texte T_PAR_TYPE = {"Enregistrements refusés par type :", "Records refused by type:"};
+constexpr texte T_SANS_TYPE = {"(sans type)", "(no type)"};
 constexpr texte T_PREMIERE = {"première en ligne {0}", "first on line {0}"};
 constexpr texte T_APRES = {"Si quilvane a déjà été lancé sur ce fichier : {0}",
                            "If quilvane has run on this file already: {0}"};
@@ -234,8 +235,10 @@ std::string resumeEnTexte(const sResume& r, std::string_view nom, eLangue langue
     }
     if (!r.types.empty()) {
         t += std::string("  ") + T_PAR_TYPE.en_langue(langue);
-        for (const auto& [type, nombre] : r.types)
-            t += " " + visible(type) + " " + std::to_string(nombre);
+        for (const auto& [type, nombre] : r.types) {
+            const bool nomme = type.find_first_not_of(' ') != std::string::npos;
+            t += " " + (nomme ? visible(type) : T_SANS_TYPE.en_langue(langue)) + " " + std::to_string(nombre);
+        }
         t += "\n";
     }
     return t;

@@ -49,7 +49,7 @@ struct sRecordVu {
 struct sAvertissement {
     long long ligne;
     long long colonne;
-    const char* code;  // "bom", "utf8", "tabulation", "cr_seul", ...
+    const char* code;  // "bom", "utf16", "utf8", "tabulation", "cr_seul", ...
     std::string message;
 };
 

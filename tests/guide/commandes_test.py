@@ -53,6 +53,8 @@ def cas():
         "compte": fich[:94] + b"000007" + fich[100:] + FIN + sort + FIN,
         "tout": lot(fich, plein),
         "bom": b"\xef\xbb\xbf" + lot(fich, sort),
+        "utf16": b"\xff\xfe" + lot(fich, sort).decode("ascii").encode("utf-16-le"),
+        "sans_type": lot(fich, changer(sort, (22, b"    "))),
         "utf8": lot(fich, changer(sort, (100, "é".encode()))),
         "octets": lot(fich, changer(sort, (100, b"\xe9")), changer(sort, (100, b"\0")), changer(sort, (100, b"\7")), changer(sort, (300, b""))),
         "cr_seul": fich + FIN + sort + b"\r" + sort + FIN,

@@ -72,7 +72,7 @@ class Concordance(unittest.TestCase):
         pair = banc.exemples()["exp1_accepte"]
         premier = pair.split(FIN)
         cas = {
-            "rien": b"", "bom": b"\xef\xbb\xbf" + bon, "sans fin": bon[:-1], "dos": bon.replace(FIN, b"\r\n"), "cr": bon.replace(FIN, b"\r"),
+            "rien": b"", "bom": b"\xef\xbb\xbf" + bon, "utf16": bon.decode("ascii").encode("utf-16-be"), "sans fin": bon[:-1], "dos": bon.replace(FIN, b"\r\n"), "cr": bon.replace(FIN, b"\r"),
             "melange": lignes[0] + b"\r\n" + lignes[1] + FIN, "melange plus loin": bon + lignes[1] + b"\r\n",
             "vide": bon + FIN, "vide au debut": FIN + bon, "ctrl-z": bon + b"\x1a" + bon, "ctrl-z colle": bon[:-1] + b"\x1a",
             "cr seul au milieu": lignes[0] + FIN + lignes[1] + b"\r" + lignes[1] + FIN,
