@@ -31,7 +31,7 @@ AILLEURS = (
     (r"git clone <this repository> && cd quilvane", "it names no repository"),
     (r"quilvane \[-i\|-d\|-v\] <", "a usage line"),
     (r"(find recus|parallel) .*", "lot.parallele"),
-    (r"cmake (-B|--build|--install) build/mine.*", "installation.installation does the same"),
+    (r"cmake (-G Ninja -B|--build|--install) build/mine.*", "installation.installation does the same"),
     (r"install -d -o quilvane .*", "the package's test, in a fresh Debian root"),
     (r"apt-get install \./quilvane_VERSION_amd64\.deb", "the package's test"),
     (r"systemctl enable --now .*|systemd-sysusers && systemd-tmpfiles .*", "installation.unites"),
