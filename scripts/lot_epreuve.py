@@ -48,6 +48,11 @@ class Depot:
     def attente(self):
         return len(os.listdir(self.racine + "/arrivee"))
 
+    def journal(self):
+        """How long the journal is."""
+        nom = self.racine + "/journal.jsonl"
+        return os.path.getsize(nom) if os.path.exists(nom) else 0
+
     def verifier(self):
         """Every input once in one place, one journal line, one archived copy."""
         fautes = []
@@ -129,7 +134,12 @@ def coups(lot, dossier, exemples, fichiers, nombre):
     for _ in range(nombre):
         if depot.attente() == 0:
             depot.deposer(fichiers)
+        lignes = depot.journal()
         coureur = lancer(lot, depot.racine, "-j", "2")
+        # Some while they start, most in the midst of files, however slow the machine is.
+        if random.random() < 0.8:
+            while coureur.poll() is None and depot.journal() == lignes:
+                time.sleep(0.001)
         time.sleep(random.uniform(0, 0.12))
         coureur.kill()
         coureur.wait()
