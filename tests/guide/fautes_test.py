@@ -7,6 +7,7 @@ import resource
 import shutil
 import signal
 import subprocess
+import time
 import unittest
 
 import banc
@@ -178,6 +179,7 @@ class Fautes(banc.Cas):
                                  env=banc.milieu(LC_ALL="C"))
             while not list((self.dossier / "travail").glob(".quilvane-guide-*")):
                 self.assertIsNone(p.poll())
+                time.sleep(0.01)
             # It now waits for its input; the signal is its end in any case.
             p.send_signal(numero)
             self.assertEqual((p.wait(120), p.stderr.read()), (-numero, b""))

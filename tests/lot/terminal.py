@@ -16,6 +16,7 @@ import subprocess
 import sys
 import tempfile
 import termios
+import time
 import unittest
 
 SOURCE, QUILVANE, LOT = (pathlib.Path(p).resolve() for p in sys.argv[1:])
@@ -177,7 +178,7 @@ class Terminal(unittest.TestCase):
         pid, fd = self.lancer((), 100)
         octets = self.lire(pid, fd, b"0/25")
         while not (self.dossier / "parti").exists():
-            pass
+            time.sleep(0.01)
         os.write(fd, b"\x03")
         octets += self.lire(pid, fd, b"puts them back into arrivee\r\n")
         (self.dossier / "aller").touch()
