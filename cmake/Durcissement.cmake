@@ -18,6 +18,12 @@ foreach(cible quilvane_noyau quilvane_produit quilvane_catalogue quilvane_page q
   quilvane_lot ${QUILVANE_PROGRAMMES})
   if(TARGET ${cible})
     target_compile_options(${cible} PRIVATE ${durcissement})
+    # What is linked into programs alone needs no way around its own functions
+    # and variables: a tenth fewer instructions than code for shared libraries.
+    get_target_property(genre ${cible} TYPE)
+    if(genre STREQUAL "STATIC_LIBRARY")
+      target_compile_options(${cible} PRIVATE -fPIE)
+    endif()
   endif()
 endforeach()
 foreach(programme ${QUILVANE_PROGRAMMES})
