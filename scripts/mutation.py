@@ -362,7 +362,13 @@ def lancer(programme, binaire, dossier, delai, filtre="*", secondes=None):
     shutil.rmtree(dossier, ignore_errors=True)
     dossier.mkdir(parents=True)
     milieu = {**os.environ, "TMPDIR": str(dossier), "QUILVANE_BINAIRE": str(binaire)}
-    borner = None if secondes is None else lambda: resource.setrlimit(resource.RLIMIT_CPU, (secondes, secondes))
+
+    def borner():
+        for numero in (signal.SIGINT, signal.SIGHUP, signal.SIGTERM):
+            signal.signal(numero, signal.SIG_DFL)  # jobs in the background may have been told to ignore them
+        if secondes is not None:
+            resource.setrlimit(resource.RLIMIT_CPU, (secondes, secondes))
+
     p = subprocess.Popen([programme, "--gtest_brief=1", "--gtest_fail_fast", f"--gtest_filter={filtre}"], cwd=dossier,
                          env=milieu, stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
                          start_new_session=True, preexec_fn=borner)

@@ -26,6 +26,9 @@ import mutation as m
 UN_SUR = 10
 GRAINE = "2026"
 
+# Test programs that start quilvane.
+LANCEURS = ("tests_end_to_end", "tests_fautes")
+
 EN_TETE = r"""#pragma once
 // Changes that can be switched on one at a time.
 #include <fcntl.h>
@@ -367,37 +370,42 @@ class Commutee:
                         60 + 20 * limite, filtre, int(3 + 6 * limite))
 
     def portee(self):
-        """Runs every test once: which places it comes by."""
-        fichier = self.copie / "portee.tsv"
-        empreinte = hashlib.sha1("".join(
-            (self.copie / f).read_text(encoding="utf-8") for f in sorted({p.fichier for p in self.places})).encode() + b"".join(
-            p.read_bytes() for p in sorted((self.copie / "tests").rglob("*")) if p.is_file())).hexdigest()
+        """Runs every test once: which places it comes by. A program that is the same is not run again."""
         self.tests = []  # (program, test, seconds, places)
-        if fichier.exists() and fichier.read_text().startswith(empreinte):
-            for ligne in fichier.read_text().splitlines()[1:]:
-                programme, test, duree, ceux = ligne.split("\t")
-                self.tests.append((programme, test, float(duree), frozenset(map(int, ceux.split()))))
-            return
+        (self.copie / "portee").mkdir(exist_ok=True)
+        quilvane = (self.construit / "quilvane").read_bytes()
         self.numero.write_text("0")
         for programme in m.cibles():
-            liste = m.obliger([self.construit / "tests" / programme, "--gtest_list_tests"])
-            suite = ""
-            for ligne in liste.splitlines():
-                ligne = ligne.split("#")[0].rstrip()
-                if not ligne.startswith(" "):
-                    suite = ligne
-                    continue
-                test = suite + ligne.strip()
-                self.carte.write_bytes(bytes(self.taille))
-                debut = time.monotonic()
-                # A busy machine may fail a test that waits for a moment.
-                if not any(self.lancer(programme, test, 60) for _ in range(3)):
-                    sys.exit(f"mutation: {programme} {test} fails without any change")
-                octets = self.carte.read_bytes()
-                self.tests.append((programme, test, time.monotonic() - debut, frozenset(i for i, b in enumerate(octets) if b)))
-        self.carte.unlink()
-        fichier.write_text(empreinte + "\n" + "".join(
-            f"{a}\t{b}\t{c:.3f}\t{' '.join(map(str, sorted(d)))}\n" for a, b, c, d in self.tests))
+            octets = (self.construit / "tests" / programme).read_bytes()
+            if programme in LANCEURS:
+                octets += quilvane
+            empreinte = hashlib.sha1(octets).hexdigest()
+            garde = self.copie / "portee" / f"{programme}.tsv"
+            lignes = garde.read_text().splitlines() if garde.exists() else []
+            if lignes[:1] != [empreinte]:
+                lignes = [empreinte, *self.arpenter(programme)]
+                garde.write_text("\n".join(lignes) + "\n")
+            for ligne in lignes[1:]:
+                test, duree, ceux = ligne.split("\t")
+                self.tests.append((programme, test, float(duree), frozenset(map(int, ceux.split()))))
+        self.carte.unlink(missing_ok=True)
+
+    def arpenter(self, programme):
+        """A line for each test of a program: its name, seconds, the places it comes by."""
+        suite = ""
+        for ligne in m.obliger([self.construit / "tests" / programme, "--gtest_list_tests"]).splitlines():
+            ligne = ligne.split("#")[0].rstrip()
+            if not ligne.startswith(" "):
+                suite = ligne
+                continue
+            test = suite + ligne.strip()
+            self.carte.write_bytes(bytes(self.taille))
+            debut = time.monotonic()
+            # A busy machine may fail a test that waits for a moment.
+            if not any(self.lancer(programme, test, 60) for _ in range(3)):
+                sys.exit(f"mutation: {programme} {test} fails without any change")
+            duree = time.monotonic() - debut
+            yield f"{test}\t{duree:.3f}\t{' '.join(str(i) for i, b in enumerate(self.carte.read_bytes()) if b)}"
 
     def atteintes(self):
         return frozenset().union(*(t[3] for t in self.tests)) if self.tests else frozenset()
@@ -418,7 +426,7 @@ class Commutee:
                         bout = noms[k:k + 400]
                         nommes, duree = ":".join(t[1] for t in bout), sum(t[2] for t in bout)
                         # Tests that start processes may fail for want of time: such a failure is to happen twice.
-                        essais = 2 if programme in ("tests_end_to_end", "tests_fautes") else 1
+                        essais = 2 if programme in LANCEURS else 1
                         if not any(self.lancer(programme, nommes, duree) for _ in range(essais)):
                             return programme
             return ""
