@@ -10,7 +10,7 @@ set -euo pipefail
 cd "$racine"
 exiger clang clang-tidy cmake ninja-build rapidjson-dev nettle-dev git
 cmake -G Ninja -B build/analyse -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_COMPILER=clang++ >/dev/null || arreter "cannot be configured"
-# Compiled for the browser alone.
+# The module is compiled for the browser, and for tests only here.
 mapfile -t sources < <(git ls-files 'src/*.cpp' | grep -v '^src/module/')
 mapfile -t module < <(git ls-files 'src/module/*.cpp' | grep -v '/copier.cpp$')
 printf '%s\n' "${sources[@]}" | xargs -P "${TACHES:-$(nproc)}" -n 4 clang-tidy --quiet -p build/analyse --config='' \
