@@ -2,9 +2,14 @@
 
 Prints every line and branch that no test reached and that is not named there,
 and every entry that names nothing any more; exit status 1 if there is one.
+Branches count in the rooms of quilvane; in the others lines do: there most
+branches are those of the C++ library's texts.
 """
 import json
 import sys
+
+
+CHAMBRES = ("attgetopt", "calendar", "checks", "controle", "driver", "messages", "rules", "vocabulaire")
 
 
 def main(rapport, exclues, racine):
@@ -15,7 +20,7 @@ def main(rapport, exclues, racine):
                 fichier, texte, _ = (p.strip() for p in ligne.split(" | "))
                 entrees.append([fichier, texte, 0])
     manques = 0
-    branches = atteintes = 0
+    lignes = lues = branches = atteintes = 0
     with open(rapport, encoding="utf-8") as f:
         donnees = json.load(f)
     for fichier in donnees["files"]:
@@ -26,6 +31,10 @@ def main(rapport, exclues, racine):
             if ligne.get("gcovr/noncode"):
                 continue
             comptes = [b["count"] for b in ligne.get("branches", []) if not b.get("throw")]
+            if fichier["file"].split("/")[1] not in CHAMBRES:
+                comptes = []
+            lignes += 1
+            lues += ligne["count"] > 0
             branches += len(comptes)
             atteintes += sum(1 for c in comptes if c)
             if ligne["count"] and all(comptes):
@@ -40,7 +49,7 @@ def main(rapport, exclues, racine):
         if fois == 0:
             manques += 1
             print(f"reached after all, or gone: {fichier} | {texte}")
-    print(f"{atteintes} of {branches} branches; {sum(e[2] for e in entrees)} lines hold branches that cannot be reached")
+    print(f"{lues} of {lignes} lines, {atteintes} of {branches} branches; {sum(e[2] for e in entrees)} lines cannot be reached in every way")
     return 1 if manques else 0
 
 

@@ -169,6 +169,15 @@ class Commandes(banc.Cas):
         self.fichier("accepte.retour", banc.quilvane(cas()["accepte"])[1])
         self.repondre("retour_accepte", "retour", "accepte.retour")
 
+    def test_retour_sans_sa_source(self):
+        """A source that cannot be read ends the command before anything is written."""
+        statut, erreurs, _, _ = banc.quilvane(banc.exemples()["abat_rejete"])
+        self.assertEqual(statut, 2)
+        self.fichier("erreurs.vse", erreurs)
+        lu, sortie, erreur = banc.guide("retour", "--source", "absente", "erreurs.vse", dossier=self.dossier, langue="en")
+        self.assertEqual((lu, sortie), (1, b""))
+        self.assertIn(b"absente cannot be read", erreur)
+
     def test_retour_de_tout(self):
         """Every error file is led back to its source, whatever the types and the faults."""
         vus = 0

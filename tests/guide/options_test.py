@@ -80,6 +80,14 @@ class Options(banc.Cas):
         version = re.search(r"project\(quilvane VERSION ([\d.]+)", (banc.RACINE / "CMakeLists.txt").read_text())[1]
         self.assertEqual(self.sortie("--version"), f"quilvane-guide {version}\n")
 
+    def test_sortie_impossible(self):
+        """What cannot be written is no success."""
+        for mot in ("--version", "--help"):
+            r = subprocess.run(["sh", "-c", 'exec "$0" "$@" 1<&0', banc.GUIDE, mot], input=b"", capture_output=True,
+                               env=banc.milieu(LC_ALL="C"), timeout=120)
+            self.assertEqual(r.returncode, 1, mot)
+            self.assertIn(b"standard output cannot be written", r.stderr)
+
     def test_langue(self):
         fr, en = "Usage : ", "Usage: "
         for env, attendu in (({"LC_ALL": "fr_FR.UTF-8"}, fr), ({"LC_ALL": "fr"}, fr), ({"LC_ALL": "de_DE"}, en), ({"LC_ALL": "", "LC_MESSAGES": "fr_CA"}, fr),
