@@ -174,7 +174,7 @@ const char* ligneDeLog(eFatal cause) {
 /** Ends the run on a condition met while reading. */
 bool arreter(eFatal cause) {
     if (cause == eFatal::IG008)  // the files stay as they are
-        consigner(IG008, fp_log);
+        consigner(ligneDeLog(cause), fp_log);
     else
         annuler(ligneDeLog(cause));
     return false;

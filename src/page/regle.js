@@ -59,7 +59,7 @@
         return court + "^".repeat(largeur - court.length);
     }
 
-    /** The part of the marks of one line that falls into a piece. */
+    /** Which of the marks of one line falls into a piece. */
     function ligneDeMarques(plages, debut, largeur) {
         const cases = Array(largeur).fill(" ");
         for (const p of plages)
