@@ -2,8 +2,8 @@
  * parcours.h - a rule table as it is walked when nobody watches: the columns to
  * cut, and for each transaction kind the rows that have something to say.
  * Extra rows cut nothing, and of all rows hardly more than half are checked for
- * one kind: a record is judged in a fifth less time when the others are not
- * even come to. Made by the compiler; only the table is written.
+ * one kind: the others are not even come to. Made by the compiler; only the
+ * table is written.
  */
 #ifndef QUILVANE_RULES_PARCOURS_H
 #define QUILVANE_RULES_PARCOURS_H
