@@ -51,7 +51,7 @@ extern const sCorps tErre[]; extern const int lErre; extern const parcours pErre
 extern const sCorps tErti[]; extern const int lErti; extern const parcours pErti;  // production of a site
 extern const sCorps tExp1[]; extern const int lExp1; extern const parcours pExp1;  // export, holding
 extern const sCorps tExp2[]; extern const int lExp2; extern const parcours pExp2;  // export, keeper
-extern const sCorps tFich[]; extern const int lFich;                              // file record
+extern const sCorps tFich[]; extern const int lFich;                               // file record
 extern const sCorps tGroc[]; extern const int lGroc; extern const parcours pGroc;  // tag order, ovine and caprine
 extern const sCorps tImoc[]; extern const int lImoc; extern const parcours pImoc;  // ovine and caprine mark
 extern const sCorps tImpo[]; extern const int lImpo; extern const parcours pImpo;  // import

@@ -18,11 +18,9 @@ constexpr texte T_BOM = {
     "the file as ASCII or as “UTF-8 without BOM”."};
 constexpr texte T_UTF16 = {
     "Le fichier est écrit en UTF-16 : deux octets par caractère, dont un octet nul. Enregistrez le fichier "
-    "en "
-    "ASCII ou en « UTF-8 sans BOM ».",
+    "en ASCII ou en « UTF-8 sans BOM ».",
     "The file is written in UTF-16: two bytes for each character, one of them zero. Save the file as ASCII "
-    "or "
-    "as “UTF-8 without BOM”."};
+    "or as “UTF-8 without BOM”."};
 constexpr texte T_UTF8 = {
     "Cet enregistrement contient une lettre accentuée écrite en UTF-8 (deux octets ou plus) : elle n'est pas "
     "admise et décale toutes les colonnes qui suivent. Écrivez la lettre sans accent.",
